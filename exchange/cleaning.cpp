@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#include "exchange/cleaning.h"
+
+namespace exchange
+{
+
+QString unchanged(QString text)
+{
+    return text;
+}
+
+QString withoutTabs(QString text)
+{
+    return text.replace(QLatin1Char('\t'), QLatin1Char(' '));
+}
+
+QString withoutBrackets(QString text)
+{
+    return withoutTabs(std::move(text))
+        .replace(QLatin1Char('['), QLatin1Char('('))
+        .replace(QLatin1Char(']'), QLatin1Char(')'));
+}
+
+QString simplified(QString text)
+{
+    return std::move(text).simplified();
+}
+
+QString priceFormat(double price)
+{
+    constexpr int significantDigits = 13;
+    return QString::number(price, 'g', significantDigits);
+}
+
+QString priceText(const QString &sourceText, std::optional<double> factor)
+{
+    return factor ? priceFormat(sourceText.toDouble() * *factor) : sourceText;
+}
+
+} // namespace exchange

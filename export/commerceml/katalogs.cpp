@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#include "export/commerceml/goods.h"
+#include "reader/childelements.h"
+#include "reader/commxmlreader.h"
+#include "reader/vocabulary.h"
+
+using namespace commerceml;
+using namespace exchange;
+
+bool CommXmlReader::exportKatalogs(bool prefixRows, bool withDescription, bool markHtml)
+{
+    const GoodsOptions options{prefixRows, markHtml ? HtmlMark::Html : HtmlMark::None};
+    for (const QDomNode &katalog : qAsConst(katalogs)) {
+        const QDomElement list = katalog.firstChildElement(goodsListElement);
+        for (const QDomElement &goods : ChildElements(list, goodsElement)) {
+            const QDomElement id = goods.firstChildElement(idElement);
+            if (id.isNull())
+                continue;
+            exportGoods(id.text(), readFields(*this, goods, catalogueGoodsFields()),
+                        withDescription ? goodsDescription(goods) : QString(), options);
+        }
+    }
+    return !katalogs.isEmpty();
+}

@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: MIT
+#include "export/commerceml/goods.h"
+#include "reader/childelements.h"
+#include "reader/commxmlreader.h"
+#include "reader/vocabulary.h"
+
+using namespace commerceml;
+using namespace exchange;
+
+namespace
+{
+
+const QString quantityElement = QStringLiteral("Количество");
+
+const FieldTable itemFields = {
+    {quantityElement, fullText, {{}, "qty:"_l1}},
+    {unitPriceElement, fullText, {{}, priceKey}},
+};
+
+ChildElements orderLines(const QDomNode &doc)
+{
+    return {doc.firstChildElement(goodsListElement), goodsElement};
+}
+
+} // namespace
+
+bool CommXmlReader::exportOrderLines(const QDomNode &doc, bool withGoods)
+{
+    const ChildElements lines = orderLines(doc);
+    if (lines.isEmpty())
+        return false;
+    for (const QDomElement &line : lines) {
+        if (withGoods) {
+            const QDomElement id = line.firstChildElement(idElement);
+            if (id.isNull())
+                continue;
+            writeGoods(id.text(), readFields(*this, line, orderGoodsFields()));
+        }
+        writeLine(itemBlock.begin);
+        writeFields(readFields(*this, line, itemFields));
+        writeLine(itemBlock.end);
+    }
+    writeLine(closeOrder);
+    return true;
+}
+
+bool CommXmlReader::collectDocumentRows(bool withGoods)
+{
+    const ChildElements lines = orderLines(docs.value(0));
+    if (lines.isEmpty())
+        return false;
+    constexpr bool prefixed = true;
+    for (const QDomElement &line : lines) {
+        QString code;
+        if (withGoods) {
+            const QDomElement id = line.firstChildElement(idElement);
+            if (id.isNull())
+                continue;
+            code = id.text();
+            GoodsRow row(code, prefixed);
+            row.addFields(readFields(*this, line, orderGoodsFields()));
+            goodsRows.append(row.text());
+        }
+        // The quantity brings its tab along: without it the price takes its place.
+        QString row = code + QLatin1Char('\t');
+        const QDomElement quantity = line.firstChildElement(quantityElement);
+        if (!quantity.isNull())
+            row += quantity.text() + QLatin1Char('\t');
+        goodsRows.append(row + line.firstChildElement(unitPriceElement).text());
+    }
+    return true;
+}

@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+#include "export/fields.h"
+#include "reader/childelements.h"
+#include "reader/commxmlreader.h"
+#include "reader/vocabulary.h"
+
+#include <algorithm>
+
+using namespace commerceml;
+using namespace exchange;
+
+namespace
+{
+
+/// An address as one text.
+std::optional<QString> presentation(CommXmlReader &, const QDomElement &address)
+{
+    const QDomElement text = address.firstChildElement(QStringLiteral("Представление"));
+    return text.isNull() ? std::nullopt : std::optional(text.text());
+}
+
+const FieldTable partnerFields = {
+    {idElement, fullText, {{}, codeKey}},
+    {nameElement, fullText, {{}, nameKey}},
+    {QStringLiteral("ПолноеНаименование"), fullText, {{}, "fullname:"_l1}},
+    {QStringLiteral("ИНН"), fullText, {{}, "inn:"_l1}},
+    {QStringLiteral("КПП"), fullText, {{}, "kpp:"_l1}},
+    {QStringLiteral("ОКПО"), fullText, {{}, "okpo:"_l1}},
+    {QStringLiteral("АдресРегистрации"),
+     presentation,
+     {{}, "address_legal:"_l1},
+     unchanged,
+     simplified},
+    {QStringLiteral("Адрес"), presentation, {{}, "address_actual:"_l1}, unchanged, simplified},
+};
+
+const QString mailType = QStringLiteral("Почта");
+const QString phoneTypes[] = {
+    QStringLiteral("ТелефонРабочий"),
+    QStringLiteral("ТелефонМобильный"),
+    QStringLiteral("ТелефонДомашний"),
+};
+
+/// By the order of the phones, whatever their types; the last one serves all that follow.
+constexpr QLatin1String phoneKeys[] = {
+    "phone:"_l1,
+    "phone2:"_l1,
+    "phone3:"_l1,
+};
+
+/// The mail addresses and phones of a partner, in the order of the source.
+FieldValues readContacts(const QDomElement &partner)
+{
+    FieldValues values;
+    const auto *phoneKey = std::begin(phoneKeys);
+    const QDomElement list = partner.firstChildElement(QStringLiteral("Контакты"));
+    for (const QDomElement &contact : ChildElements(list, QStringLiteral("Контакт"))) {
+        const QDomElement value = contact.firstChildElement(valueElement);
+        if (value.isNull())
+            continue;
+        const QString type = contact.firstChildElement(QStringLiteral("Тип")).text();
+        if (type == mailType) {
+            values.append({{{}, "email:"_l1}, {}, value.text()});
+        } else if (std::count(std::begin(phoneTypes), std::end(phoneTypes), type) > 0) {
+            values.append({{{}, *phoneKey}, {}, value.text()});
+            if (phoneKey != std::end(phoneKeys) - 1)
+                ++phoneKey;
+        }
+    }
+    return values;
+}
+
+} // namespace
+
+void CommXmlReader::exportPartner(const QDomElement &partner)
+{
+    writeLine(partnerBlock.begin);
+    writeFields(readFields(*this, partner, partnerFields));
+    writeFields(readContacts(partner));
+    writeLine(partnerBlock.end);
+}

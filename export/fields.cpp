@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#include "export/fields.h"
+
+#include "reader/commxmlreader.h"
+
+exchange::FieldValues readFields(CommXmlReader &reader, const QDomNode &item,
+                                 const FieldTable &table)
+{
+    exchange::FieldValues values;
+    values.reserve(table.size());
+    for (const Field &field : table) {
+        const QDomElement element = item.firstChildElement(field.element);
+        if (element.isNull())
+            continue;
+        if (const std::optional<QString> value = field.reading(reader, element))
+            values.append({field.target, field.rowCleaning(*value), field.lineCleaning(*value)});
+    }
+    return values;
+}
+
+std::optional<QString> fullText(CommXmlReader &, const QDomElement &element)
+{
+    return element.text();
+}
+
+std::optional<QString> filledText(CommXmlReader &, const QDomElement &element)
+{
+    return unlessEmpty(element.text());
+}
+
+std::optional<QString> ownText(CommXmlReader &, const QDomElement &element)
+{
+    return unlessEmpty(CommXmlReader::directText(element));
+}
+
+std::optional<QString> unlessEmpty(const QString &text)
+{
+    return text.isEmpty() ? std::nullopt : std::optional(text);
+}

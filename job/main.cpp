@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: MIT
+#include "job/console.h"
+#include "job/platform.h"
+#include "reader/commxmlreader.h"
+
+#include <QCoreApplication>
+#include <QTextCodec>
+
+namespace
+{
+
+enum ExitCode {
+    Copied = 0,
+    BadUsage = 1,
+    SourceNotRead = 2,
+    DocumentsNotExported = 3,
+};
+
+struct JobOptions {
+    QString sourcePath;
+    QString destinationPath;
+    int saleFlag = 1; // 1: the documents are sales, 0: purchases
+    bool pauseAfterJob = false;
+};
+
+void printUsage()
+{
+    consoleOut() << QObject::tr("command line format:") << Qt::endl
+                 << QObject::tr("xml2ryk.exe source_file.xml destination_file.txt options")
+                 << Qt::endl
+                 << QObject::tr("options:") << Qt::endl
+                 << QObject::tr("--purchase - documents for purchase (sale by default)") << Qt::endl
+                 << QObject::tr("--pause - pause after job") << Qt::endl;
+}
+
+/// `arguments` holds two at the least.
+JobOptions readOptions(const QList<QByteArray> &arguments)
+{
+    const QTextCodec *pathCodec = QTextCodec::codecForName("cp1251");
+    JobOptions options;
+    options.sourcePath = pathCodec->toUnicode(arguments.at(0));
+    options.destinationPath = pathCodec->toUnicode(arguments.at(1));
+    for (const QByteArray &argument : arguments.mid(2)) {
+        if (argument == "--purchase")
+            options.saleFlag = 0;
+        else if (argument == "--pause")
+            options.pauseAfterJob = true;
+    }
+    return options;
+}
+
+ExitCode convert(const JobOptions &options)
+{
+    const auto pauseAtEnd = [&] {
+        if (options.pauseAfterJob)
+            pauseForKey();
+    };
+
+    CommXmlReader reader;
+    if (!reader.loadSource(options.sourcePath)) {
+        printMessage(QObject::tr("Error open input file %1!").arg(options.sourcePath), false);
+        pauseAtEnd();
+        return SourceNotRead;
+    }
+    reader.readStructure();
+    reader.outputFileName = options.destinationPath;
+    reader.outputEnabled = true;
+    reader.openOutput();
+
+    const bool prefixRows = false;
+    const bool withDescription = true;
+    const bool markHtml = true;
+    const bool extendedOffers = true;
+    const bool applyFactor = false;
+    const bool withGoods = true;
+    reader.exportKatalogs(prefixRows, withDescription, markHtml);
+    reader.exportPrices(prefixRows, withDescription, markHtml, extendedOffers, applyFactor, 1.0);
+    if (!reader.exportDocs(withGoods, options.saleFlag)) {
+        printMessage(QObject::tr("Error getting documents..."), false);
+        pauseAtEnd();
+        reader.closeOutput();
+        return DocumentsNotExported;
+    }
+    reader.closeOutput();
+    printMessage(QObject::tr("Data was copied to file %1.").arg(options.destinationPath), false);
+    pauseAtEnd();
+    return Copied;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    preparePlatform();
+    const QCoreApplication application(argc, argv);
+    consoleOut().setCodec("cp866");
+
+    const QList<QByteArray> arguments = jobArguments(argc, argv);
+    if (arguments.size() < 2) {
+        printUsage();
+        pauseForKey();
+        return BadUsage;
+    }
+    const JobOptions options = readOptions(arguments);
+    consoleOut() << QObject::tr("Source file: ") << options.sourcePath << Qt::endl
+                 << QObject::tr("Destination file: ") << options.destinationPath << Qt::endl;
+    return convert(options);
+}

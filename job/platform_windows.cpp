@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#include "job/platform.h"
+
+#include <QString>
+#include <QTextCodec>
+
+#include <conio.h>
+#include <qt_windows.h>
+#include <shellapi.h>
+
+void preparePlatform() {}
+
+QList<QByteArray> jobArguments(int, char **)
+{
+    // The narrow argv is in the code page of the system, which need not have the letters.
+    const QTextCodec *codec = QTextCodec::codecForName("cp1251");
+    QList<QByteArray> arguments;
+    int count = 0;
+    if (wchar_t **words = CommandLineToArgvW(GetCommandLineW(), &count)) {
+        for (int i = 1; i < count; ++i)
+            arguments.append(codec->fromUnicode(QString::fromWCharArray(words[i])));
+        LocalFree(words);
+    }
+    return arguments;
+}
+
+void readKey()
+{
+    const HANDLE input = GetStdHandle(STD_INPUT_HANDLE);
+    DWORD mode = 0;
+    if (GetConsoleMode(input, &mode)) {
+        _getch();
+    } else {
+        char byte = 0;
+        DWORD count = 0;
+        ReadFile(input, &byte, 1, &count, nullptr);
+    }
+}

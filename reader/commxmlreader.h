@@ -1,0 +1,176 @@
+// SPDX-License-Identifier: MIT
+//
+// The class of the program. A run calls, in this order: loadSource(), readStructure(), sets
+// outputFileName and outputEnabled, then openOutput(), the exporters, closeOutput().
+#pragma once
+
+#include "exchange/format.h"
+#include "exchange/goodsrow.h"
+
+#include <QDomDocument>
+#include <QFile>
+#include <QList>
+#include <QPair>
+#include <QStringList>
+#include <QTextStream>
+
+/// The kind of a source, told by the name of its root element.
+enum SourceDialect : int {
+    UndeterminedDialect = -1,
+    CommerceMlDialect = 0,
+    YmlDialect = 1, ///< root "yml_catalog" or "xml_catalog"
+};
+
+/// A goods code and the address of a picture of that good.
+using PictureLink = QPair<QString, QString>;
+
+/// One source document and the exchange file that is made of it.
+///
+/// The exporters write lines only while outputEnabled is true, and build goodsRows either way. No
+/// operation throws. An exporter never fails on data: a missing element only leaves out its line.
+/// All lookups of children take the first direct child of exactly the name; texts are not trimmed.
+class CommXmlReader
+{
+public:
+    QList<PictureLink> pictureLinks; ///< pictures of the goods of the last export
+    QString outputFileName;          ///< path of the exchange file; null after closeOutput()
+    bool outputEnabled = false;      ///< no line reaches the exchange file while this is false
+
+    CommXmlReader();
+
+    /// Closes the exchange file if it is still open; writes nothing.
+    ~CommXmlReader();
+
+    Q_DISABLE_COPY(CommXmlReader)
+
+    // --- Object and files -------------------------------------------------------------------
+
+    /// Writes `text` in quotation marks, with a blank behind them, as a line of the toolkit's debug
+    /// output, which for a console program is standard error, in the local 8-bit encoding.
+    virtual void logMessage(const QString &text);
+
+    /// Parses the XML file at `path` into the document; its encoding is what the file declares.
+    /// False if it can't be opened or is not well-formed: there is no root element then, and
+    /// logMessage() has told which. The file is closed in every case.
+    bool loadSource(const QString &path);
+
+    /// Opens the exchange file outputFileName, in place of any older one, and writes its header.
+    /// True at once where outputEnabled is false. False, with outputEnabled cleared, if the name is
+    /// empty or the file can't be opened; the latter is told on the console and waits for a key.
+    bool openOutput();
+
+    /// Closes the exchange file if it is open, and clears outputFileName, outputEnabled and
+    /// goodsRows.
+    void closeOutput();
+
+    // --- Section lists ----------------------------------------------------------------------
+
+    /// Tells the dialect from the root's name, in any case of letters, and fills the section lists
+    /// anew. A root of another name leaves the dialect as it was. False if there is no root.
+    bool readStructure();
+
+    /// Appends every section below `parent` to its list, in document order, sections nested in
+    /// other sections included.
+    void collectSections(const QDomNode &parent);
+
+    // --- Node access ------------------------------------------------------------------------
+
+    /// The text and CDATA children of `node`, joined; empty, not null, if there are none.
+    static QString directText(const QDomNode &node);
+
+    /// The value of an attribute; null if `node` does not have it.
+    static QString attributeValue(const QDomNode &node, const QString &name);
+
+    /// The first element below `parent`, at any depth, with this tag and exactly this full text;
+    /// null if there is none.
+    static QDomNode findElementByText(const QDomNode &parent, const QString &tag,
+                                      const QString &text);
+
+    /// The first direct child element of `parent` with this tag that has the attribute with exactly
+    /// this value; null if there is none.
+    static QDomNode findElementByAttribute(const QDomNode &parent, const QString &tag,
+                                           const QString &attribute, const QString &value);
+
+    // --- Paths ------------------------------------------------------------------------------
+
+    /// The names from the top group down to the CommerceML group with this "Ид", joined by " \ ";
+    /// empty if no section of groups holds the id.
+    QString groupPath(const QString &id);
+
+    // --- CommerceML catalogues and offers ---------------------------------------------------
+
+    /// Exports the goods of katalogs. `prefixRows`: goods rows start with "##" and a tab.
+    /// `withDescription`: descriptions are exported. `markHtml`: the row of a described good says
+    /// that it is HTML. False if there is no catalogue.
+    bool exportKatalogs(bool prefixRows, bool withDescription, bool markHtml);
+
+    /// Exports the offers of prices, as exportKatalogs() does goods, with up to five prices each;
+    /// a described offer's row is marked as HTML or not HTML by `markHtml`. `applyFactor`: prices
+    /// are multiplied by `priceFactor`. False if there is no price package.
+    bool exportPrices(bool prefixRows, bool withDescription, bool markHtml, bool extendedOffers,
+                      bool applyFactor, double priceFactor);
+
+    // --- CommerceML documents ---------------------------------------------------------------
+
+    /// Exports each document of docs as a partner, an order head and order lines; `withGoods`: with
+    /// a goods block ahead of each line. `documentType`: 1 for sales, to a buyer, 0 for purchases,
+    /// from a seller. A document without a partner to its role is skipped. False if there are no
+    /// documents, the exchange file is not being written, or an order has no lines: the export ends
+    /// at that order.
+    bool exportDocs(bool withGoods, int documentType);
+
+    /// Appends a line row for each line of the first document to goodsRows, `withGoods` behind a
+    /// goods row of its own; writes no line. False if there is no document or it has no lines.
+    bool collectDocumentRows(bool withGoods);
+
+protected:
+    QFile sourceFile;         ///< open only inside loadSource()
+    QDomDocument document;    ///< the parsed source
+    QDomElement rootElement;  ///< null until a source is loaded
+    QStringList goodsRows;    ///< see docs/exchange-format.md
+    QFile outputFile;         ///< the exchange file
+    QTextStream outputStream; ///< on outputFile, in UTF-8, while that is open
+    QList<QDomNode> katalogs; ///< "Каталог" sections
+    QList<QDomNode> groups;   ///< "Классификатор" and "categories" sections
+    QList<QDomNode> docs;     ///< "Документ" sections
+    QList<QDomNode> prices;   ///< "ПакетПредложений" and "offers" sections
+    QString pathBuffer;       ///< the latest path built
+    SourceDialect dialect = UndeterminedDialect;
+
+private:
+    // --- What the exporters share -----------------------------------------------------------
+
+    /// Puts the text of `name` in front of the path in pathBuffer; false if `name` is null.
+    bool prependToPath(const QDomElement &name);
+
+    /// The one gate to the exchange file: a line of `key` and `value`, flushed.
+    void writeLine(QLatin1String key, const QString &value = QString());
+
+    /// A line for each of `values` that has a key.
+    void writeFields(const exchange::FieldValues &values);
+
+    /// `text` between its marker lines; nothing if it is empty.
+    void writeText(const QString &text);
+
+    /// A goods block; an empty `description` is left out.
+    void writeGoods(const QString &code, const exchange::FieldValues &values,
+                    const QString &description = QString());
+
+    /// How an exporter of goods presents them.
+    struct GoodsOptions {
+        bool prefixRows;
+        exchange::HtmlMark htmlMark;
+    };
+
+    /// One good: its block in the exchange file, and its goods row and description entries.
+    void exportGoods(const QString &code, const exchange::FieldValues &values,
+                     const QString &description, const GoodsOptions &options);
+
+    // --- Steps of exportDocs() --------------------------------------------------------------
+
+    void exportPartner(const QDomElement &partner);
+    void exportOrderHead(const QDomNode &doc, int documentType);
+
+    /// False if the document has no lines.
+    bool exportOrderLines(const QDomNode &doc, bool withGoods);
+};

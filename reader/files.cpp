@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+#include "job/console.h"
+#include "reader/commxmlreader.h"
+
+#include <QCoreApplication>
+
+CommXmlReader::CommXmlReader() = default;
+
+CommXmlReader::~CommXmlReader()
+{
+    outputFile.close();
+}
+
+void CommXmlReader::logMessage(const QString &text)
+{
+    qt_message_output(QtDebugMsg, QMessageLogContext(),
+                      QLatin1Char('"') + text + QLatin1String("\" "));
+}
+
+bool CommXmlReader::loadSource(const QString &path)
+{
+    rootElement.clear();
+    sourceFile.setFileName(path);
+    logMessage(QStringLiteral("Reading file: %1 ... ").arg(path));
+    QCoreApplication::processEvents(QEventLoop::AllEvents);
+
+    if (!sourceFile.open(QIODevice::ReadOnly)) {
+        logMessage(QStringLiteral("Error open in file: %1 ").arg(path));
+        return false;
+    }
+    const bool parsed = document.setContent(&sourceFile);
+    sourceFile.close();
+    if (!parsed) {
+        logMessage(QStringLiteral("Error parce XML file: %1 ").arg(path));
+        return false;
+    }
+    rootElement = document.documentElement();
+    return true;
+}
+
+bool CommXmlReader::openOutput()
+{
+    goodsRows.clear();
+    if (!outputEnabled)
+        return true;
+
+    outputFile.close();
+    if (outputFileName.isEmpty()) {
+        outputEnabled = false;
+        return false;
+    }
+    outputFile.setFileName(outputFileName);
+    if (!outputFile.open(QIODevice::WriteOnly)) {
+        outputEnabled = false;
+        printMessage(QObject::tr("Error opening output text file!"), false);
+        printMessage(outputFileName, true);
+        return false;
+    }
+    outputStream.setDevice(&outputFile);
+    outputStream.setCodec("UTF-8");
+    writeLine(exchange::fileHeader);
+    return true;
+}
+
+void CommXmlReader::closeOutput()
+{
+    outputFile.close();
+    goodsRows.clear();
+    outputFileName = QString();
+    outputEnabled = false;
+}
