@@ -6,7 +6,9 @@
 
 #include <cerrno>
 #include <csignal>
-#include <optional>
+#include <cstddef>
+#include <fcntl.h>
+#include <iterator>
 #include <poll.h>
 #include <termios.h>
 #include <unistd.h>
@@ -91,6 +93,12 @@ void readByte()
 
 void preparePlatform()
 {
+    // A standard stream that came closed would hand its number, and what is printed on it, to the
+    // next file that is opened.
+    for (const int standardStream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        if (fcntl(standardStream, F_GETFD) < 0)
+            open("/dev/null", O_RDWR);
+    }
     // Nobody reading the console any more is no reason to leave the exchange file unfinished.
     std::signal(SIGPIPE, SIG_IGN);
 }

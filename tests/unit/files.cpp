@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+#include "probe.h"
+
+/// The states that the operations on files leave a reader in, on every path.
+class FilesTest : public QObject
+{
+    Q_OBJECT
+
+    QTemporaryDir folder;
+
+    QString write(const QString &name, const QByteArray &content) const
+    {
+        QFile file(folder.filePath(name));
+        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+            qFatal("can't write");
+        return file.fileName();
+    }
+
+private slots:
+    void loadSource()
+    {
+        Probe probe;
+        const QString good = write("good.xml", "<r><Каталог/></r>");
+        const QString broken = write("broken.xml", "<r><Каталог></r>");
+        const QString missing = folder.filePath("missing.xml");
+        for (const QString &bad : {broken, missing}) {
+            QVERIFY(probe.loadSource(good));
+            QVERIFY(!probe.sourceFile.isOpen());
+            QVERIFY(probe.readStructure());
+            QVERIFY(probe.readStructure());
+            QCOMPARE(probe.katalogs.size(), 1);
+            probe.collectSections(probe.rootElement);
+            QCOMPARE(probe.katalogs.size(), 2);
+
+            QVERIFY(!probe.loadSource(bad));
+            QVERIFY(!probe.sourceFile.isOpen());
+            QVERIFY(probe.rootElement.isNull());
+            QVERIFY(!probe.readStructure());
+            QVERIFY(probe.katalogs.isEmpty());
+        }
+        QCOMPARE(probe.log.mid(0, 3),
+                 QStringList({QStringLiteral("Reading file: %1 ... ").arg(good),
+                              QStringLiteral("Reading file: %1 ... ").arg(broken),
+                              QStringLiteral("Error parce XML file: %1 ").arg(broken)}));
+        QCOMPARE(probe.log.last(), QStringLiteral("Error open in file: %1 ").arg(missing));
+    }
+
+    void openAndCloseOutput()
+    {
+        Probe probe;
+        const QString path = folder.filePath("out.txt");
+        const auto open = [&](const QString &name, bool enabled) {
+            probe.outputFileName = name;
+            probe.outputEnabled = enabled;
+            probe.goodsRows = QStringList{"row"};
+            return probe.openOutput();
+        };
+        const auto isClosed = [&] {
+            return !probe.outputEnabled && !probe.outputFile.isOpen() && probe.goodsRows.isEmpty();
+        };
+
+        QVERIFY(open(path, false));
+        QVERIFY(isClosed() && !QFile::exists(path));
+
+        QVERIFY(!open(QString(), true));
+        QVERIFY(isClosed());
+        QVERIFY(probe.outputStream.device() == nullptr);
+
+        for (int run = 0; run < 2; ++run) {
+            QVERIFY(open(path, true));
+            QVERIFY(probe.outputEnabled && probe.outputFile.isOpen() && probe.goodsRows.isEmpty());
+            QFile file(path);
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            QCOMPARE(file.readAll(), QByteArray("Ryk data for exchange\n"));
+
+            if (run == 0)
+                probe.closeOutput();
+            else
+                QVERIFY(!open(QString(), true)); // without closing first
+            QVERIFY(isClosed());
+        }
+        probe.closeOutput();
+        QVERIFY(isClosed() && probe.outputFileName.isNull());
+    }
+};
+
+QTEST_GUILESS_MAIN(FilesTest)
+#include "files.moc"

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "reader/commxmlreader.h"
+
+#include <QtTest>
+
+/// A reader whose document is given as text, and whose fields a test can look at.
+class Probe : public CommXmlReader
+{
+public:
+    using CommXmlReader::goodsRows;
+    using CommXmlReader::groups;
+    using CommXmlReader::katalogs;
+    using CommXmlReader::outputFile;
+    using CommXmlReader::outputStream;
+    using CommXmlReader::pathBuffer;
+    using CommXmlReader::rootElement;
+    using CommXmlReader::sourceFile;
+
+    Probe() = default;
+    explicit Probe(const QString &xml)
+    {
+        if (!document.setContent(xml))
+            qFatal("no XML: %s", qPrintable(xml));
+        rootElement = document.documentElement();
+        readStructure();
+    }
+
+    void logMessage(const QString &text) override { log << text; }
+
+    QStringList log;
+};
