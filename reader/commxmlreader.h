@@ -127,7 +127,7 @@ protected:
     QFile sourceFile;         ///< open only inside loadSource()
     QDomDocument document;    ///< the parsed source
     QDomElement rootElement;  ///< null until a source is loaded
-    QStringList goodsRows;    ///< see docs/exchange-format.md
+    QStringList goodsRows;    ///< the goods once more, as tab-coded rows
     QFile outputFile;         ///< the exchange file
     QTextStream outputStream; ///< on outputFile, in UTF-8, while that is open
     QList<QDomNode> katalogs; ///< "Каталог" sections
