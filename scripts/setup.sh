@@ -44,13 +44,13 @@ build() {
     mkdir -p "$directory"
     (
         flock 9
-        cd "$root"
+        cd "$root" || exit
         if [ ! -f "$directory/build.ninja" ]; then
             say "building, this once"
             cmake --preset "$preset" >&2 ||
                 give_up "can't build without a C++17 compiler, CMake 3.25, Ninja and Qt 5.15" \
                     "(on Debian the packages ${build_packages[*]})"
         fi
-        cmake --build "$directory" --target "$target" -- --quiet >&2
+        cmake --build "$directory" --target "$target" -- --quiet >&2 || give_up "the build failed"
     ) 9>"$directory/.lock"
 }

@@ -25,6 +25,7 @@ xml2ryk() {
     return $code
 }
 export LC_ALL=C.UTF-8
+# shellcheck source=/dev/null
 (cd "$work/case" && . "$case/command") </dev/null >"$work/console" 2>"$work/actual/log.txt"
 iconv -f CP866 -t UTF-8 "$work/console" >"$work/actual/console.txt"
 (cd "$work/case" && find . -type f | sort | comm -23 - "$work/inputs" | tar -c -T -) |
