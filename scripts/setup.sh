@@ -1,7 +1,7 @@
 # shellcheck shell=bash
 #
 # What the commands of this project share: installing what is missing, and building. Sourced by
-# them; everything it prints goes to standard error.
+# them, under pipefail; everything it prints goes to standard error.
 
 root=$(cd "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")/.." && pwd)
 build_packages=(g++ cmake ninja-build qtbase5-dev)
@@ -51,6 +51,7 @@ build() {
                 give_up "can't build without a C++17 compiler, CMake 3.25, Ninja and Qt 5.15" \
                     "(on Debian the packages ${build_packages[*]})"
         fi
-        cmake --build "$directory" --target "$target" -- --quiet >&2 || give_up "the build failed"
+        cmake --build "$directory" --target "$target" -- --quiet 2>&1 |
+            sed '/^ninja: no work to do/d' >&2 || give_up "the build failed"
     ) 9>"$directory/.lock"
 }
