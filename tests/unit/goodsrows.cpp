@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "probe.h"
 
+#include <functional>
+
 static const char *const goods = R"(
 <КоммерческаяИнформация>
   <Классификатор><Группы><Группа><Ид>g</Ид><Наименование>Gro	up</Наименование></Группа></Группы></Классификатор>
@@ -29,75 +31,64 @@ line	2</Описание></Товар>
   <Документ><Товары><Товар><Ид>second document</Ид></Товар></Товары></Документ>
 </КоммерческаяИнформация>)";
 
-static QStringList lines(const char *text)
-{
-    return QString::fromUtf8(text).split(QLatin1Char('|'));
-}
+/// Runs an exporter and gives back its result.
+using Export = std::function<bool(Probe &)>;
+Q_DECLARE_METATYPE(Export)
 
 class GoodsRowsTest : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void katalogs_data()
+    void rows_data()
     {
-        QTest::addColumn<bool>("prefixRows");
-        QTest::addColumn<bool>("withDescription");
-        QTest::addColumn<bool>("markHtml");
-        QTest::addColumn<QStringList>("rows");
-        const QString first =
-            QStringLiteral("c\t1#2\tDART\ta 1\tDP8\tn [1]\tDSC\tb 1\tDP6\tGro\tup\t"
-                           "DP10\tшт\t1");
+        QTest::addColumn<Export>("run");
+        QTest::addColumn<QString>("rows"); // joined by "|"
+
+        const QString good = "c\t1#2\tDART\ta 1\tDP8\tn [1]\tDSC\tb 1\tDP6\tGro\tup\tDP10\tшт\t1";
+        const QString description = "|-----|line 1\nline\t2|-----";
         const QString empty = "\tDART\t\tDP8\t\tDSC\t";
-        const QStringList description = lines("-----|line 1\nline\t2|-----");
-        QTest::newRow("as the job")
-            << false << true << true
-            << (QStringList(first + "\tDISHTML\t1") + description) + QStringList({"c2", empty});
-        QTest::newRow("not HTML") << false << true << false
-                                  << QStringList(first) + description + QStringList({"c2", empty});
-        QTest::newRow("prefix, no description")
-            << true << false << true << QStringList({"##\t" + first, "##\tc2", "##\t" + empty});
+        QTest::newRow("katalogs, as the job")
+            << Export([](Probe &p) { return p.exportKatalogs(false, true, true); })
+            << good + "\tDISHTML\t1" + description + "|c2|" + empty;
+        QTest::newRow("katalogs, not HTML")
+            << Export([](Probe &p) { return p.exportKatalogs(false, true, false); })
+            << good + description + "|c2|" + empty;
+        QTest::newRow("katalogs, prefix, no description")
+            << Export([](Probe &p) { return p.exportKatalogs(true, false, true); })
+            << "##\t" + good + "|##\tc2|##\t" + empty;
+
+        const QString offer = "p1\tDART\ta[1]\tDP8\tn (1) (2)\tDSC\tb[1]\tDP6\tGro\tup\tDP10\tшт";
+        const QString prices = "\tDC1\t100.00\tDC3\tdear\tDC4\t\tDC5\t150";
+        QTest::newRow("prices, as the job")
+            << Export([](Probe &p) { return p.exportPrices(false, true, true, true, false, 1.5); })
+            << offer + prices + "\tDISHTML\t1|-----|text|-----|p2";
+        QTest::newRow("prices, prefix, not HTML")
+            << Export([](Probe &p) { return p.exportPrices(true, true, false, true, false, 1.5); })
+            << "##\t" + offer + prices + "\tDISHTML\t0|-----|text|-----|##\tp2";
+        QTest::newRow("prices, factor, no description")
+            << Export([](Probe &p) { return p.exportPrices(false, false, true, true, true, 1.5); })
+            << offer + "\tDC1\t150\tDC3\t0\tDC4\t0\tDC5\t225|p2";
+
+        QTest::newRow("document, with goods")
+            << Export([](Probe &p) { return p.collectDocumentRows(true); })
+            << "##\tt1\tDART\ta 1\tDP8\t n (1) \tDP6\tGro\tup\tDP10\tшт|t1\t2.0\t10|##\tt2|t2\t5";
+        QTest::newRow("document, lines alone")
+            << Export([](Probe &p) { return p.collectDocumentRows(false); })
+            << "\t2.0\t10|\t1\t|\t5";
+        QTest::newRow("documents leave no rows")
+            << Export([](Probe &p) { return !p.exportDocs(true, 1); }) << "";
     }
 
-    void katalogs()
+    void rows()
     {
-        QFETCH(bool, prefixRows);
-        QFETCH(bool, withDescription);
-        QFETCH(bool, markHtml);
+        QFETCH(Export, run);
         Probe probe(QString::fromUtf8(goods));
-        QVERIFY(probe.exportKatalogs(prefixRows, withDescription, markHtml));
-        QTEST(probe.goodsRows, "rows");
-        probe.closeOutput();
-        QVERIFY(probe.goodsRows.isEmpty());
-    }
-
-    void prices_data()
-    {
-        QTest::addColumn<bool>("prefixRows");
-        QTest::addColumn<bool>("markHtml");
-        QTest::addColumn<bool>("applyFactor");
-        QTest::addColumn<QString>("start");
-        QTest::addColumn<QString>("prices");
-        const QString plain = "\tDC1\t100.00\tDC3\tdear\tDC4\t\tDC5\t150";
-        QTest::newRow("as the job") << false << true << false << "" << plain + "\tDISHTML\t1";
-        QTest::newRow("not HTML") << true << false << false << "##\t" << plain + "\tDISHTML\t0";
-        QTest::newRow("factor") << false << true << true << ""
-                                << "\tDC1\t150\tDC3\t0\tDC4\t0\tDC5\t225\tDISHTML\t1";
-    }
-
-    void prices()
-    {
-        QFETCH(bool, prefixRows);
-        QFETCH(bool, markHtml);
-        QFETCH(bool, applyFactor);
-        QFETCH(QString, start);
-        QFETCH(QString, prices);
-        Probe probe(QString::fromUtf8(goods));
-        QVERIFY(probe.exportPrices(prefixRows, true, markHtml, true, applyFactor, 1.5));
-        const QString first =
-            start + "p1\tDART\ta[1]\tDP8\tn (1) (2)\tDSC\tb[1]\tDP6\tGro\tup\tDP10\tшт";
-        QCOMPARE(probe.goodsRows,
-                 QStringList({first + prices, "-----", "text", "-----", start + "p2"}));
+        QVERIFY(run(probe));
+        QTEST(probe.goodsRows.join("|"), "rows");
+        Probe nothing(
+            "<Документы><Документ/><Документ><Товары><Товар/></Товары></Документ></Документы>");
+        QVERIFY(run(nothing) == QByteArray(QTest::currentDataTag()).startsWith("documents"));
     }
 
     void factorInTheExchangeFile()
@@ -111,36 +102,6 @@ private slots:
         QFile file(probe.outputFileName);
         QVERIFY(file.open(QIODevice::ReadOnly));
         QVERIFY(file.readAll().contains("\nprice:165\nprice_discount:110\n##endgoods\n"));
-    }
-
-    void documentRows_data()
-    {
-        QTest::addColumn<bool>("withGoods");
-        QTest::addColumn<QStringList>("rows");
-        QTest::newRow("with goods") << true
-                                    << lines("##\tt1\tDART\ta 1\tDP8\t n (1) "
-                                             "\tDP6\tGro\tup\tDP10\tшт|t1\t2.0\t10|##\tt2|t2\t5");
-        QTest::newRow("lines alone") << false << lines("\t2.0\t10|\t1\t|\t5");
-    }
-
-    void documentRows()
-    {
-        QFETCH(bool, withGoods);
-        Probe probe(QString::fromUtf8(goods));
-        QVERIFY(probe.collectDocumentRows(withGoods));
-        QTEST(probe.goodsRows, "rows");
-        QVERIFY(!probe.exportDocs(true, 1)); // no exchange file is open
-        QTEST(probe.goodsRows, "rows");
-    }
-
-    void nothingToExport()
-    {
-        Probe probe(QStringLiteral("<Документы><Документ/><Документ><Товары><Товар/></Товары>"
-                                   "</Документ></Документы>"));
-        QVERIFY(!probe.exportKatalogs(false, true, true));
-        QVERIFY(!probe.exportPrices(false, true, true, true, false, 1.0));
-        QVERIFY(!probe.collectDocumentRows(false)); // only the first document counts
-        QVERIFY(probe.goodsRows.isEmpty());
     }
 };
 
