@@ -4,6 +4,7 @@
 #include "reader/commxmlreader.h"
 
 #include <QCoreApplication>
+#include <QLoggingCategory>
 #include <QTextCodec>
 
 namespace
@@ -22,6 +23,16 @@ struct JobOptions {
     int saleFlag = 1; // 1: the documents are sales, 0: purchases
     bool pauseAfterJob = false;
 };
+
+/// The log is a part of what the program prints: settings that are meant for other programs of the
+/// toolkit do not change it, and the toolkit's own warnings stay out of it.
+void fixLog()
+{
+    for (const char *variable : {"QT_LOGGING_CONF", "QT_LOGGING_RULES", "QT_MESSAGE_PATTERN"})
+        qunsetenv(variable);
+    qputenv("QT_FORCE_STDERR_LOGGING", "1");
+    QLoggingCategory::setFilterRules(QStringLiteral("default.debug=true\ndefault.warning=false"));
+}
 
 void printUsage()
 {
@@ -92,6 +103,7 @@ ExitCode convert(const JobOptions &options)
 int main(int argc, char *argv[])
 {
     preparePlatform();
+    fixLog();
     const QCoreApplication application(argc, argv);
     consoleOut().setCodec("cp866");
 

@@ -19,11 +19,31 @@ namespace
 // The signals that end or stop a process while it waits for a key.
 constexpr int interruptions[] = {SIGINT, SIGTERM, SIGHUP, SIGQUIT, SIGTSTP};
 
+// A key on a terminal can be several bytes, that of a Cyrillic letter or an arrow for one. They
+// come together.
+constexpr std::size_t longestKey = 16;
+
 volatile std::sig_atomic_t caughtSignal = 0;
 
 extern "C" void rememberSignal(int signal)
 {
     caughtSignal = signal;
+}
+
+/// Waits for standard input and drops up to `size` bytes of it, with `mask` as the signal mask of
+/// the wait. False if an interruption came instead.
+bool readInput(std::size_t size, const sigset_t *mask)
+{
+    char bytes[longestKey];
+    pollfd input = {STDIN_FILENO, POLLIN, 0};
+    // Input that does not block can turn out to be empty after all.
+    do {
+        while (ppoll(&input, 1, nullptr, mask) < 0 && errno == EINTR) {
+            if (caughtSignal != 0)
+                return false;
+        }
+    } while (read(STDIN_FILENO, bytes, size) < 0 && (errno == EAGAIN || errno == EINTR));
+    return true;
 }
 
 /// Takes the terminal out of line mode and echo, and holds the interruptions back, for as long as
@@ -33,20 +53,22 @@ class KeyMode
 public:
     KeyMode()
     {
-        tcgetattr(STDIN_FILENO, &savedTerminal);
         sigset_t blocked;
         sigemptyset(&blocked);
+        for (const int signal : interruptions)
+            sigaddset(&blocked, signal);
+        sigprocmask(SIG_BLOCK, &blocked, &savedMask);
+
+        caughtSignal = 0;
         struct sigaction action = {};
         action.sa_handler = rememberSignal;
         for (std::size_t i = 0; i < std::size(interruptions); ++i) {
             sigaction(interruptions[i], nullptr, &savedActions[i]);
-            if (savedActions[i].sa_handler != SIG_IGN) {
+            if (savedActions[i].sa_handler != SIG_IGN)
                 sigaction(interruptions[i], &action, nullptr);
-                sigaddset(&blocked, interruptions[i]);
-            }
         }
-        sigprocmask(SIG_BLOCK, &blocked, &savedMask);
 
+        tcgetattr(STDIN_FILENO, &savedTerminal);
         termios terminal = savedTerminal;
         terminal.c_lflag &= ~tcflag_t(ICANON | ECHO);
         terminal.c_cc[VMIN] = 1;
@@ -64,30 +86,14 @@ public:
 
     Q_DISABLE_COPY(KeyMode)
 
-    /// Waits until there is something to read; interruptions arrive only here. False if one did.
-    bool waitForInput() const
-    {
-        pollfd input = {STDIN_FILENO, POLLIN, 0};
-        caughtSignal = 0;
-        while (ppoll(&input, 1, nullptr, &savedMask) < 0 && errno == EINTR) {
-            if (caughtSignal != 0)
-                return false;
-        }
-        return true;
-    }
+    /// Waits for a key; interruptions arrive only here. False if one did.
+    bool waitForKey() const { return readInput(longestKey, &savedMask); }
 
 private:
     termios savedTerminal = {};
     struct sigaction savedActions[std::size(interruptions)] = {};
     sigset_t savedMask = {};
 };
-
-void readByte()
-{
-    char byte = 0;
-    while (read(STDIN_FILENO, &byte, 1) < 0 && errno == EINTR) {
-    }
-}
 
 } // namespace
 
@@ -99,8 +105,10 @@ void preparePlatform()
         if (fcntl(standardStream, F_GETFD) < 0)
             open("/dev/null", O_RDWR);
     }
-    // Nobody reading the console any more is no reason to leave the exchange file unfinished.
+    // A write that fails is no reason to end: neither nobody reading the console any more, nor an
+    // exchange file that has reached the limit of the size of files.
     std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);
 }
 
 QList<QByteArray> jobArguments(int argc, char **argv)
@@ -121,16 +129,14 @@ QList<QByteArray> jobArguments(int argc, char **argv)
 void readKey()
 {
     if (isatty(STDIN_FILENO) == 0) {
-        readByte();
+        readInput(1, nullptr);
         return;
     }
     for (;;) {
         {
             const KeyMode keyMode;
-            if (keyMode.waitForInput()) {
-                readByte();
+            if (keyMode.waitForKey())
                 return;
-            }
         }
         // With the terminal as it was. A process that was only stopped goes on waiting.
         std::raise(caughtSignal);

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "reader/commxmlreader.h"
 
-#include "reader/childelements.h"
-
 QString CommXmlReader::directText(const QDomNode &node)
 {
     QString text = QLatin1String("");
@@ -37,8 +35,11 @@ QDomNode CommXmlReader::findElementByText(const QDomNode &parent, const QString 
 QDomNode CommXmlReader::findElementByAttribute(const QDomNode &parent, const QString &tag,
                                                const QString &attribute, const QString &value)
 {
-    for (QDomElement child : ChildElements(parent, tag)) {
-        const QDomAttr attributeNode = child.attributeNode(attribute);
+    for (QDomNode child = parent.firstChild(); !child.isNull(); child = child.nextSibling()) {
+        QDomElement element = child.toElement();
+        if (element.isNull() || element.tagName() != tag)
+            continue;
+        const QDomAttr attributeNode = element.attributeNode(attribute);
         if (!attributeNode.isNull() && attributeNode.value() == value)
             return child;
     }
