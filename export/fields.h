@@ -10,12 +10,14 @@
 #include <QString>
 #include <QVector>
 
+#include <functional>
 #include <optional>
 
 class CommXmlReader;
 
 /// Takes a field's value from its element, which exists; nothing where the field is left out.
-using Reading = std::optional<QString> (*)(CommXmlReader &reader, const QDomElement &element);
+using Reading =
+    std::function<std::optional<QString>(CommXmlReader &reader, const QDomElement &element)>;
 
 /// One line of a field table.
 struct Field {

@@ -97,6 +97,11 @@ public:
     /// empty if no section of groups holds the id.
     QString groupPath(const QString &id);
 
+    /// The names from the root category down to the YML category with this "id", joined by " \ ";
+    /// empty if no section of groups holds the id. Parents are sought in the same section; a chain
+    /// of them ends where it leads back to a category already walked.
+    QString ymlCategoryPath(const QString &id);
+
     // --- CommerceML catalogues and offers ---------------------------------------------------
 
     /// Exports the goods of katalogs. `prefixRows`: goods rows start with "##" and a tab.
@@ -106,9 +111,18 @@ public:
 
     /// Exports the offers of prices, as exportKatalogs() does goods, with up to five prices each;
     /// a described offer's row is marked as HTML or not HTML by `markHtml`. `applyFactor`: prices
-    /// are multiplied by `priceFactor`. False if there is no price package.
+    /// are multiplied by `priceFactor`. False if there is no price package. A YML source is handed
+    /// over to exportYmlOffers(), which alone reads `extendedOffers`.
     bool exportPrices(bool prefixRows, bool withDescription, bool markHtml, bool extendedOffers,
                       bool applyFactor, double priceFactor);
+
+    // --- YML offers -------------------------------------------------------------------------
+
+    /// Exports the offers of prices, and fills pictureLinks anew. `extendedOffers`: with the
+    /// extended fields, a composed name, the unit, and no goods row for an offer whose count is 0;
+    /// the other parameters as in exportPrices(). False if there is no section of offers.
+    bool exportYmlOffers(bool prefixRows, bool withDescription, bool markHtml, bool extendedOffers,
+                         bool applyFactor, double priceFactor);
 
     // --- CommerceML documents ---------------------------------------------------------------
 
@@ -122,6 +136,16 @@ public:
     /// Appends a line row for each line of the first document to goodsRows, `withGoods` behind a
     /// goods row of its own; writes no line. False if there is no document or it has no lines.
     bool collectDocumentRows(bool withGoods);
+
+    // --- Clipboard: link xml2ryk-clipboard, and have a QGuiApplication -----------------------
+
+    /// Puts goodsRows on the clipboard, each with a line feed behind it.
+    void copyRowsToClipboard();
+
+    /// Collects the sections once more behind those in the lists, prints the sizes of the lists on
+    /// the toolkit's debug output, and puts the rows of a fresh run of exportKatalogs() and
+    /// exportPrices() on the clipboard.
+    void runDiagnostics();
 
 protected:
     QFile sourceFile;         ///< open only inside loadSource()

@@ -61,8 +61,12 @@ FieldValues readPrices(const QDomElement &offer, std::optional<double> factor)
 } // namespace
 
 bool CommXmlReader::exportPrices(bool prefixRows, bool withDescription, bool markHtml,
-                                 bool /*extendedOffers*/, bool applyFactor, double priceFactor)
+                                 bool extendedOffers, bool applyFactor, double priceFactor)
 {
+    if (dialect == YmlDialect)
+        return exportYmlOffers(prefixRows, withDescription, markHtml, extendedOffers, applyFactor,
+                               priceFactor);
+
     const GoodsOptions options{prefixRows, markHtml ? HtmlMark::Html : HtmlMark::PlainText};
     const std::optional<double> factor = applyFactor ? std::optional(priceFactor) : std::nullopt;
     for (const QDomNode &package : qAsConst(prices)) {

@@ -22,6 +22,16 @@ line	2</Описание></Товар>
       <Описание>text</Описание></Предложение>
     <Предложение><Ид>p2</Ид></Предложение>
   </Предложения></ПакетПредложений>
+  <categories><category id='5'>Dri	lls</category></categories>
+  <offers>
+    <offer id='o	1'><vendorCode>v	[1]</vendorCode><typePrefix>t	[2]</typePrefix><model>m	[3]</model><name>[N] n	[4]</name>
+      <barcode>b	[5]</barcode><categoryId>5</categoryId><price>10	.50</price><vendor>V	[6]</vendor>
+      <priceR>11</priceR><priceD>dear</priceD><Vendor>W	[7]</Vendor><LastCountry>L	[8]</LastCountry><PN>P	[9]</PN>
+      <weight>1	[10]</weight><description>text	[11]</description><picture>a	[b].jpg</picture><picture>2.jpg</picture></offer>
+    <offer id='o2'><RussianName/><name>not read</name><count>0</count><description>none left</description><picture/></offer>
+    <offer id=''><name>no id</name><picture>3.jpg</picture></offer>
+    <offer id='o3'><categoryId>9</categoryId><count>00</count></offer>
+  </offers>
   <Документ><Товары>
     <Товар><Ид>t1</Ид><Артикул>a	1</Артикул><Наименование> n	[1] </Наименование><Группы><Ид>g</Ид></Группы>
       <БазоваяЕдиница>шт</БазоваяЕдиница><Количество>2.0</Количество><ЦенаЗаЕдиницу>10</ЦенаЗаЕдиницу></Товар>
@@ -70,6 +80,24 @@ private slots:
             << Export([](Probe &p) { return p.exportPrices(false, false, true, true, true, 1.5); })
             << offer + "\tDC1\t150\tDC3\t0\tDC4\t0\tDC5\t225|p2";
 
+        const QString yml = "o\t1\tDART\tv [1]\tDP7\tt (2)\tDP8\tm (3)\tDP8\t%1\tDSC\tb [5]\t"
+                            "DP6\tDri\tlls\tDC1\t%2\tDP12\tV [6]";
+        const QString extended = "\tDC1\t%1\tDC5\t%2\tDP12\tW [7]\tDP3\tL [8]\tDART\tP (9)\t"
+                                 "DP16\t1 [10]\tDP10\tшт";
+        QTest::newRow("YML, as the job")
+            << Export([](Probe &p) { return p.exportYmlOffers(false, true, true, true, false, 2); })
+            << yml.arg("n (4)", "10 .50") + extended.arg("11", "dear") +
+                   "\tDISHTML\t1|-----|text\t[11]|-----|o3\tDP10\tшт";
+        QTest::newRow("YML, prefix, plain, not HTML")
+            << Export(
+                   [](Probe &p) { return p.exportYmlOffers(true, true, false, false, false, 2); })
+            << "##\t" + yml.arg("(N) n (4)", "10 .50") +
+                   "\tDISHTML\t0|-----|text\t[11]|-----|##\to2\tDP8\tnot read"
+                   "\tDISHTML\t0|-----|none left|-----|##\to3";
+        QTest::newRow("YML, factor, no description")
+            << Export([](Probe &p) { return p.exportYmlOffers(false, false, true, true, true, 2); })
+            << yml.arg("n (4)", "0") + extended.arg("22", "0") + "|o3\tDP10\tшт";
+
         QTest::newRow("document, with goods")
             << Export([](Probe &p) { return p.collectDocumentRows(true); })
             << "##\tt1\tDART\ta 1\tDP8\t n (1) \tDP6\tGro\tup\tDP10\tшт|t1\t2.0\t10|##\tt2|t2\t5";
@@ -89,6 +117,18 @@ private slots:
         Probe nothing(
             "<Документы><Документ/><Документ><Товары><Товар/></Товары></Документ></Документы>");
         QVERIFY(run(nothing) == QByteArray(QTest::currentDataTag()).startsWith("documents"));
+    }
+
+    void pictures()
+    {
+        const QList<PictureLink> pictures = {{"o\t1", "a [b].jpg"}, {"o2", ""}};
+        Probe probe(QString::fromUtf8(goods));
+        for (int run = 0; run < 2; ++run) {
+            QVERIFY(probe.exportYmlOffers(false, true, true, true, false, 1.0));
+            QCOMPARE(probe.pictureLinks, pictures);
+        }
+        QVERIFY(probe.readStructure());
+        QVERIFY(probe.pictureLinks.isEmpty());
     }
 
     void factorInTheExchangeFile()

@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: MIT
+#include "export/fields.h"
+#include "export/yml/displayname.h"
+#include "reader/childelements.h"
+#include "reader/commxmlreader.h"
+
+using namespace exchange;
+
+namespace
+{
+
+std::optional<QString> categoryPath(CommXmlReader &reader, const QDomElement &categoryId)
+{
+    return unlessEmpty(reader.ymlCategoryPath(categoryId.text()));
+}
+
+const QString nameElement = QStringLiteral("name");
+const QString russianNameElement = QStringLiteral("RussianName");
+
+std::optional<QString> shownName(CommXmlReader &, const QDomElement &name)
+{
+    return displayName(name.text());
+}
+
+/// The name of an offer that has no Russian name.
+std::optional<QString> otherName(CommXmlReader &reader, const QDomElement &name)
+{
+    const bool hasRussianName = !name.parentNode().firstChildElement(russianNameElement).isNull();
+    return hasRussianName ? std::nullopt : shownName(reader, name);
+}
+
+/// The fields of an "offer". Prices are multiplied by `factor`, if there is one.
+FieldTable offerFields(bool extended, std::optional<double> factor)
+{
+    const Reading price = [factor](CommXmlReader &, const QDomElement &element) {
+        return withoutTabs(priceText(element.text(), factor));
+    };
+    const Target priceTarget{"DC1"_l1, priceKey};
+    const Target vendor{"DP12"_l1, "vendor:"_l1};
+
+    const FieldTable typeFields = {
+        {QStringLiteral("vendorCode"), fullText, article, withoutTabs, withoutTabs},
+        {QStringLiteral("typePrefix"),
+         fullText,
+         {"DP7"_l1, "DP7:"_l1},
+         withoutBrackets,
+         withoutTabs},
+        {QStringLiteral("model"), fullText, name, withoutBrackets, withoutTabs},
+    };
+    const FieldTable plainName = {
+        {nameElement, fullText, name, withoutBrackets, withoutTabs},
+    };
+    const FieldTable extendedName = {
+        {russianNameElement, shownName, name},
+        {nameElement, otherName, name},
+    };
+    const FieldTable tradeFields = {
+        {QStringLiteral("barcode"), fullText, barcode, withoutTabs, withoutTabs},
+        {QStringLiteral("categoryId"), categoryPath, group},
+        {QStringLiteral("price"), price, priceTarget},
+        {QStringLiteral("vendor"), fullText, vendor, withoutTabs, withoutTabs},
+    };
+    const FieldTable extendedFields = {
+        {QStringLiteral("priceR"), price, priceTarget},
+        {QStringLiteral("priceD"), price, {"DC5"_l1, "DC5:"_l1}},
+        {QStringLiteral("Vendor"), fullText, vendor, withoutTabs, withoutTabs},
+        {QStringLiteral("LastCountry"),
+         fullText,
+         {"DP3"_l1, "country:"_l1},
+         withoutTabs,
+         withoutTabs},
+        {QStringLiteral("PN"), fullText, article, withoutBrackets, withoutTabs},
+        {QStringLiteral("weight"), fullText, {"DP16"_l1, "weight:"_l1}, withoutTabs, withoutTabs},
+    };
+    return extended ? typeFields + extendedName + tradeFields + extendedFields
+                    : typeFields + plainName + tradeFields;
+}
+
+/// Empty if the offer has none.
+QString description(const QDomElement &offer)
+{
+    return offer.firstChildElement(QStringLiteral("description")).text();
+}
+
+/// An extended offer tells that nothing of the good is left.
+bool isSoldOut(const QDomElement &offer)
+{
+    return offer.firstChildElement(QStringLiteral("count")).text() == QLatin1String("0");
+}
+
+} // namespace
+
+bool CommXmlReader::exportYmlOffers(bool prefixRows, bool withDescription, bool markHtml,
+                                    bool extendedOffers, bool applyFactor, double priceFactor)
+{
+    pictureLinks.clear();
+    const GoodsOptions options{prefixRows, markHtml ? HtmlMark::Html : HtmlMark::PlainText};
+    const FieldTable fields =
+        offerFields(extendedOffers, applyFactor ? std::optional(priceFactor) : std::nullopt);
+    const QString piece = QStringLiteral("шт"); // no element tells the unit
+
+    for (const QDomNode &section : qAsConst(prices)) {
+        for (const QDomElement &offer : ChildElements(section, QStringLiteral("offer"))) {
+            const QString code = attributeValue(offer, QStringLiteral("id"));
+            if (code.isEmpty())
+                continue;
+            FieldValues values = readFields(*this, offer, fields);
+            if (extendedOffers && isSoldOut(offer)) {
+                writeGoods(code, values);
+            } else {
+                if (extendedOffers)
+                    values.append({unit, piece, piece});
+                exportGoods(code, values, withDescription ? description(offer) : QString(),
+                            options);
+            }
+            const QDomElement picture = offer.firstChildElement(QStringLiteral("picture"));
+            if (!picture.isNull())
+                pictureLinks.append({code, withoutTabs(picture.text())});
+        }
+    }
+    return !prices.isEmpty();
+}

@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#include "probe.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+
+class ClipboardTest : public QObject
+{
+    Q_OBJECT
+
+    /// What is on the clipboard; on an X server another program is asked.
+    static QString pasted()
+    {
+        if (QGuiApplication::platformName() != "xcb")
+            return QGuiApplication::clipboard()->text();
+        QProcess other;
+        QSignalSpy finished(&other, qOverload<int, QProcess::ExitStatus>(&QProcess::finished));
+        other.start("xclip", {"-out", "-selection", "clipboard"});
+        return finished.wait() ? QString::fromUtf8(other.readAllStandardOutput()) : "no answer";
+    }
+
+private slots:
+    void rows()
+    {
+        Probe probe("<r><Каталог><Товары>"
+                    "<Товар><Ид>1</Ид><Описание>дрель\nи сверло</Описание></Товар>"
+                    "<Товар><Ид>2</Ид></Товар></Товары></Каталог></r>");
+        probe.exportKatalogs(false, true, true);
+        const QStringList rows = probe.goodsRows;
+        probe.copyRowsToClipboard();
+        QCOMPARE(pasted(), QString("1\tDISHTML\t1\n-----\nдрель\nи сверло\n-----\n2\n"));
+        QCOMPARE(probe.goodsRows, rows);
+
+        probe.goodsRows.clear();
+        probe.copyRowsToClipboard();
+        QCOMPARE(pasted(), QString());
+    }
+
+    void diagnostics_data()
+    {
+        QTest::addColumn<QString>("xml");
+        QTest::addColumn<QStringList>("log");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("CommerceML")
+            << "<r><Классификатор/><Каталог><Товары><Товар><Ид>k</Ид></Товар></Товары></Каталог>"
+               "<ПакетПредложений><Предложения><Предложение><Ид>p</Ид></Предложение></Предложения>"
+               "</ПакетПредложений><Документ/></r>"
+            << QStringList{"Katalogs:  2 ", "Groups:  2   false ", "Docs:  2 ", "Prices:  2 "}
+            << "k\nk\np\np\n";
+        QTest::newRow("YML without categories")
+            << "<yml_catalog><offers><offer id='o'/></offers></yml_catalog>"
+            << QStringList{"Katalogs:  0 ", "Groups:  0   true ", "Docs:  0 ", "Prices:  2 "}
+            << "o\tDP10\tшт\no\tDP10\tшт\n";
+    }
+
+    void diagnostics()
+    {
+        QFETCH(QString, xml);
+        QFETCH(QStringList, log);
+        Probe probe(xml);
+        probe.goodsRows = QStringList{"older"};
+        for (const QString &line : log)
+            QTest::ignoreMessage(QtDebugMsg, qPrintable(line)); // fails if it does not come
+        probe.runDiagnostics();
+        QTEST(pasted(), "text");
+    }
+};
+
+QTEST_MAIN(ClipboardTest)
+#include "clipboard.moc"
