@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "exchange/cleaning.h"
 
+#include <utility>
+
 namespace exchange
 {
 

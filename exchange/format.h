@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The words of the exchange file and of the goods rows. docs/exchange-format.md tells what the
-// importing side may expect of them.
+// The words of the exchange file and of the goods rows. docs/exchange-format.md and
+// docs/goods-rows.md tell what they mean.
 #pragma once
 
 #include <QLatin1String>
@@ -13,7 +13,7 @@
 namespace exchange
 {
 
-/// An ASCII literal that is never converted to a QString.
+/// An ASCII literal that needs no conversion ahead of its use.
 constexpr QLatin1String operator""_l1(const char *text, std::size_t size) noexcept
 {
     return QLatin1String(text, static_cast<int>(size));
@@ -51,12 +51,15 @@ struct Target {
     QLatin1String key;
 };
 
-// Targets that several exporters fill. One that a single exporter fills stands in its table.
+// Targets of several tables. One that a single table fills stands there.
+namespace target
+{
 constexpr Target article{"DART"_l1, "article:"_l1};
 constexpr Target name{"DP8"_l1, nameKey};
 constexpr Target barcode{"DSC"_l1, "barcode:"_l1};
 constexpr Target group{"DP6"_l1, "group:"_l1};
 constexpr Target unit{"DP10"_l1, "unit:"_l1};
+} // namespace target
 
 /// A value on its way out. The goods row and the exchange file may get different forms of it.
 struct FieldValue {

@@ -5,6 +5,8 @@
 
 #include <QObject>
 
+#include <cstdio>
+
 QTextStream &consoleOut()
 {
     static QTextStream stream(stdout);

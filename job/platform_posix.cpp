@@ -99,8 +99,8 @@ private:
 
 void preparePlatform()
 {
-    // A standard stream that came closed would hand its number, and what is printed on it, to the
-    // next file that is opened.
+    // A standard stream that came closed would give its number to the next file that is opened, and
+    // a pause would wait for that.
     for (const int standardStream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
         if (fcntl(standardStream, F_GETFD) < 0)
             open("/dev/null", O_RDWR);

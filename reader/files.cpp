@@ -13,6 +13,7 @@ CommXmlReader::~CommXmlReader()
 
 void CommXmlReader::logMessage(const QString &text)
 {
+    // The debug stream would escape some characters, and drop the blank at the end.
     qt_message_output(QtDebugMsg, QMessageLogContext(),
                       QLatin1Char('"') + text + QLatin1String("\" "));
 }

@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <iterator>
 
 namespace
 {
@@ -55,6 +56,7 @@ void CommXmlReader::collectSections(const QDomNode &parent)
         {QStringLiteral("offers"), &CommXmlReader::prices},
     };
 
+    // A program with a window stays alive while a long document is walked.
     QCoreApplication::processEvents(QEventLoop::AllEvents);
     for (QDomNode child = parent.firstChild(); !child.isNull(); child = child.nextSibling()) {
         if (child.isElement()) {

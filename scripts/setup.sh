@@ -48,11 +48,15 @@ build() {
     (
         flock 9
         cd "$root" || exit
-        if [ ! -f "$directory/build.ninja" ]; then
+        local configured
+        configured=$(sed -n 's/^CMAKE_HOME_DIRECTORY:INTERNAL=//p' "$directory/CMakeCache.txt" \
+            2>/dev/null || true)
+        # A tree that was copied or moved brings along a build of the tree it came from.
+        if [ "$configured" != "$root" ] || [ ! -f "$directory/build.ninja" ]; then
             say "building, this once"
-            cmake --preset "$preset" >&2 ||
-                give_up "can't build without a C++17 compiler, CMake 3.25, Ninja and Qt 5.15" \
-                    "(on Debian the packages ${build_packages[*]})"
+            cmake --fresh --preset "$preset" >&2 ||
+                give_up "can't configure the build, which needs a C++17 compiler, CMake 3.25, Ninja" \
+                    "and Qt 5.15 (on Debian the packages ${build_packages[*]})"
         fi
         cmake --build "$directory" --target "$target" -- --quiet 2>&1 |
             sed '/^ninja: no work to do/d' >&2 || give_up "the build failed"

@@ -4,36 +4,43 @@
 #
 # CASE is a folder. Its `command`, lines of shell that call `xml2ryk`, runs in a copy of the folder,
 # with nothing on standard input. What comes of it must be, byte for byte, the folder `expected`:
-#   console.txt  standard output, kept in UTF-8 and compared in cp866, with a line "[exit N]" behind
-#                each run of the program
+#   console.txt  standard output, decoded from cp866, with a line "[exit N]" behind each run of the
+#                program
 #   log.txt      standard error
-#   any other    a file that the command made
+#   any other    a file that the command made or changed
 # --accept takes what comes as the expected folder, to be read before it is committed.
-set -u
-[ "$1" = --accept ] && accept=yes && shift
+set -euo pipefail
+export LC_ALL=C.UTF-8
+
+accept=
+[ "${1:-}" != --accept ] || { accept=yes && shift; }
+if [ $# -ne 2 ] || [ ! -x "$1" ] || [ ! -f "$2/command" ]; then
+    echo "usage: $0 [--accept] PROGRAM CASE" >&2
+    exit 2
+fi
 program=$(realpath "$1") case=$(realpath "$2")
 work=$(mktemp -d)
-trap 'chmod -R u+w "$work"; rm -rf "$work"' EXIT
-mkdir "$work/case" "$work/actual"
-(cd "$case" && tar -c --exclude=./expected --exclude=./command .) | tar -x -C "$work/case"
-(cd "$work/case" && find . -type f) | sort >"$work/inputs"
+trap 'rm -rf "$work"' EXIT
+cp -R "$case" "$work/case"
+rm -rf "$work/case/expected"
+mkdir "$work/actual"
+cd "$work/case"
 
 xml2ryk() {
-    "$program" "$@"
-    local code=$?
+    local code=0
+    "$program" "$@" || code=$?
     echo "[exit $code]"
-    return $code
 }
-export LC_ALL=C.UTF-8
 # shellcheck source=/dev/null
-(cd "$work/case" && . "$case/command") </dev/null >"$work/console" 2>"$work/actual/log.txt"
+(set +eu && . ./command) </dev/null >"$work/console" 2>"$work/actual/log.txt"
 iconv -f CP866 -t UTF-8 "$work/console" >"$work/actual/console.txt"
-(cd "$work/case" && find . -type f | sort | comm -23 - "$work/inputs" | tar -c -T -) |
-    tar -x -C "$work/actual"
+find . -type f -print0 | while IFS= read -r -d '' file; do
+    cmp -s "$file" "$case/$file" || cp --parents "$file" "$work/actual"
+done
 
-if [ -n "${accept:-}" ]; then
+if [ -n "$accept" ]; then
     rm -rf "$case/expected"
     cp -R "$work/actual" "$case/expected"
-    exit
+else
+    diff -r -u "$case/expected" "$work/actual"
 fi
-diff -r -u "$case/expected" "$work/actual"

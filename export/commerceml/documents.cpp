@@ -3,6 +3,7 @@
 #include "reader/vocabulary.h"
 
 #include <algorithm>
+#include <iterator>
 
 using namespace commerceml;
 

@@ -19,37 +19,37 @@ static const QString articleElement = QStringLiteral("Артикул");
 static const QString barcodeElement = QStringLiteral("Штрихкод");
 static const QString unitElement = QStringLiteral("БазоваяЕдиница");
 
+/// Catalogues and price packages differ in how a name is cleaned for the goods row.
+static FieldTable goodsFields(Cleaning nameCleaning)
+{
+    return {
+        {articleElement, fullText, target::article, withoutTabs},
+        {nameElement, fullText, target::name, nameCleaning},
+        {barcodeElement, fullText, target::barcode, withoutTabs},
+        {groupsElement, pathOfFirstGroup, target::group},
+        {unitElement, ownText, target::unit},
+    };
+}
+
 const FieldTable &catalogueGoodsFields()
 {
-    static const FieldTable table = {
-        {articleElement, fullText, article, withoutTabs},
-        {nameElement, fullText, name, withoutTabs},
-        {barcodeElement, fullText, barcode, withoutTabs},
-        {groupsElement, pathOfFirstGroup, group},
-        {unitElement, ownText, unit},
-    };
+    static const FieldTable table = goodsFields(withoutTabs);
     return table;
 }
 
 const FieldTable &offerFields()
 {
-    static const FieldTable table = {
-        {articleElement, fullText, article, withoutTabs},
-        {nameElement, fullText, name, withoutBrackets},
-        {barcodeElement, fullText, barcode, withoutTabs},
-        {groupsElement, pathOfFirstGroup, group},
-        {unitElement, ownText, unit},
-    };
+    static const FieldTable table = goodsFields(withoutBrackets);
     return table;
 }
 
 const FieldTable &orderGoodsFields()
 {
     static const FieldTable table = {
-        {articleElement, fullText, {article.rowCode, {}}, withoutTabs},
-        {nameElement, fullText, name, withoutBrackets, simplified},
-        {groupsElement, pathOfFirstGroup, group},
-        {unitElement, ownText, unit},
+        {articleElement, fullText, {target::article.rowCode, {}}, withoutTabs},
+        {nameElement, fullText, target::name, withoutBrackets, simplified},
+        {groupsElement, pathOfFirstGroup, target::group},
+        {unitElement, ownText, target::unit},
     };
     return table;
 }

@@ -5,6 +5,7 @@
 #include "reader/vocabulary.h"
 
 #include <algorithm>
+#include <iterator>
 
 using namespace commerceml;
 using namespace exchange;

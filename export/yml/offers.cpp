@@ -39,24 +39,24 @@ FieldTable offerFields(bool extended, std::optional<double> factor)
     const Target vendor{"DP12"_l1, "vendor:"_l1};
 
     const FieldTable typeFields = {
-        {QStringLiteral("vendorCode"), fullText, article, withoutTabs, withoutTabs},
+        {QStringLiteral("vendorCode"), fullText, target::article, withoutTabs, withoutTabs},
         {QStringLiteral("typePrefix"),
          fullText,
          {"DP7"_l1, "DP7:"_l1},
          withoutBrackets,
          withoutTabs},
-        {QStringLiteral("model"), fullText, name, withoutBrackets, withoutTabs},
+        {QStringLiteral("model"), fullText, target::name, withoutBrackets, withoutTabs},
     };
     const FieldTable plainName = {
-        {nameElement, fullText, name, withoutBrackets, withoutTabs},
+        {nameElement, fullText, target::name, withoutBrackets, withoutTabs},
     };
     const FieldTable extendedName = {
-        {russianNameElement, shownName, name},
-        {nameElement, otherName, name},
+        {russianNameElement, shownName, target::name},
+        {nameElement, otherName, target::name},
     };
     const FieldTable tradeFields = {
-        {QStringLiteral("barcode"), fullText, barcode, withoutTabs, withoutTabs},
-        {QStringLiteral("categoryId"), categoryPath, group},
+        {QStringLiteral("barcode"), fullText, target::barcode, withoutTabs, withoutTabs},
+        {QStringLiteral("categoryId"), categoryPath, target::group},
         {QStringLiteral("price"), price, priceTarget},
         {QStringLiteral("vendor"), fullText, vendor, withoutTabs, withoutTabs},
     };
@@ -69,7 +69,7 @@ FieldTable offerFields(bool extended, std::optional<double> factor)
          {"DP3"_l1, "country:"_l1},
          withoutTabs,
          withoutTabs},
-        {QStringLiteral("PN"), fullText, article, withoutBrackets, withoutTabs},
+        {QStringLiteral("PN"), fullText, target::article, withoutBrackets, withoutTabs},
         {QStringLiteral("weight"), fullText, {"DP16"_l1, "weight:"_l1}, withoutTabs, withoutTabs},
     };
     return extended ? typeFields + extendedName + tradeFields + extendedFields
@@ -109,7 +109,7 @@ bool CommXmlReader::exportYmlOffers(bool prefixRows, bool withDescription, bool 
                 writeGoods(code, values);
             } else {
                 if (extendedOffers)
-                    values.append({unit, piece, piece});
+                    values.append({target::unit, piece, piece});
                 exportGoods(code, values, withDescription ? description(offer) : QString(),
                             options);
             }

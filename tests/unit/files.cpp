@@ -73,14 +73,16 @@ private slots:
             QVERIFY(file.open(QIODevice::ReadOnly));
             QCOMPARE(file.readAll(), QByteArray("Ryk data for exchange\n"));
 
-            if (run == 0)
+            if (run == 0) {
                 probe.closeOutput();
-            else
+                QVERIFY(probe.outputFileName.isNull());
+            } else {
                 QVERIFY(!open(QString(), true)); // without closing first
+            }
             QVERIFY(isClosed());
         }
         probe.closeOutput();
-        QVERIFY(isClosed() && probe.outputFileName.isNull());
+        QVERIFY(isClosed());
     }
 };
 

@@ -39,11 +39,12 @@ class TerminalTest : public QObject
     }
 
     /// Waits for the program's end; its status as waitpid() gives it.
-    int waitForEnd() const
+    int waitForEnd()
     {
         int status = 0;
         if (waitpid(program, &status, 0) != program)
             qFatal("waitpid failed");
+        program = -1;
         return status;
     }
 
@@ -62,7 +63,10 @@ private slots:
 
     void cleanup()
     {
-        kill(program, SIGKILL);
+        if (program > 0) {
+            kill(program, SIGKILL);
+            waitForEnd();
+        }
         close(terminal);
     }
 
@@ -82,6 +86,8 @@ private slots:
         QTest::addColumn<int>("signal");
         QTest::newRow("Ctrl-C") << SIGINT;
         QTest::newRow("kill") << SIGTERM;
+        QTest::newRow("quit") << SIGQUIT;
+        QTest::newRow("hang-up") << SIGHUP;
     }
 
     void anInterruptRestoresTheTerminal()
