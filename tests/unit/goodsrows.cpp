@@ -3,44 +3,6 @@
 
 #include <functional>
 
-static const char *const goods = R"(
-<КоммерческаяИнформация>
-  <Классификатор><Группы><Группа><Ид>g</Ид><Наименование>Gro	up</Наименование></Группа></Группы></Классификатор>
-  <Каталог><Товары>
-    <Товар><Ид>c	1#2</Ид><Артикул>a	1</Артикул><Наименование>n	[1]</Наименование><Штрихкод>b	1</Штрихкод>
-      <Группы><Ид>g</Ид></Группы><БазоваяЕдиница>шт	1</БазоваяЕдиница><Описание>line 1
-line	2</Описание></Товар>
-    <Товар><Артикул>no id</Артикул></Товар>
-    <Товар><Ид>c2</Ид></Товар>
-    <Товар><Ид/><Артикул/><Наименование/><Штрихкод/><Группы/><БазоваяЕдиница/><Описание/></Товар>
-  </Товары></Каталог>
-  <ПакетПредложений><Предложения>
-    <Предложение><Ид>p1</Ид><Артикул>a[1]</Артикул><Наименование>n	[1] (2)</Наименование><Штрихкод>b[1]</Штрихкод>
-      <Группы><Ид>g</Ид></Группы><БазоваяЕдиница>шт</БазоваяЕдиница>
-      <Цены><Цена><ЦенаЗаЕдиницу>100.00</ЦенаЗаЕдиницу></Цена><Цена/><Цена><ЦенаЗаЕдиницу>dear</ЦенаЗаЕдиницу></Цена>
-        <Цена><ЦенаЗаЕдиницу/></Цена><Цена><ЦенаЗаЕдиницу>150</ЦенаЗаЕдиницу></Цена><Цена><ЦенаЗаЕдиницу>6</ЦенаЗаЕдиницу></Цена></Цены>
-      <Описание>text</Описание></Предложение>
-    <Предложение><Ид>p2</Ид></Предложение>
-  </Предложения></ПакетПредложений>
-  <categories><category id='5'>Dri	lls</category></categories>
-  <offers>
-    <offer id='o	1'><vendorCode>v	[1]</vendorCode><typePrefix>t	[2]</typePrefix><model>m	[3]</model><name>[N] n	[4]</name>
-      <barcode>b	[5]</barcode><categoryId>5</categoryId><price>10	.50</price><vendor>V	[6]</vendor>
-      <priceR>11</priceR><priceD>dear</priceD><Vendor>W	[7]</Vendor><LastCountry>L	[8]</LastCountry><PN>P	[9]</PN>
-      <weight>1	[10]</weight><description>text	[11]</description><picture>a	[b].jpg</picture><picture>2.jpg</picture></offer>
-    <offer id='o2'><RussianName/><name>not read</name><count>0</count><description>none left</description><picture/></offer>
-    <offer id=''><name>no id</name><picture>3.jpg</picture></offer>
-    <offer id='o3'><categoryId>9</categoryId><count>00</count></offer>
-  </offers>
-  <Документ><Товары>
-    <Товар><Ид>t1</Ид><Артикул>a	1</Артикул><Наименование> n	[1] </Наименование><Группы><Ид>g</Ид></Группы>
-      <БазоваяЕдиница>шт</БазоваяЕдиница><Количество>2.0</Количество><ЦенаЗаЕдиницу>10</ЦенаЗаЕдиницу></Товар>
-    <Товар><Количество>1</Количество></Товар>
-    <Товар><Ид>t2</Ид><ЦенаЗаЕдиницу>5</ЦенаЗаЕдиницу></Товар>
-  </Товары></Документ>
-  <Документ><Товары><Товар><Ид>second document</Ид></Товар></Товары></Документ>
-</КоммерческаяИнформация>)";
-
 /// Runs an exporter and gives back its result.
 using Export = std::function<bool(Probe &)>;
 Q_DECLARE_METATYPE(Export)
@@ -111,7 +73,7 @@ private slots:
     void rows()
     {
         QFETCH(Export, run);
-        Probe probe(QString::fromUtf8(goods));
+        Probe probe(source("goods.xml"));
         QVERIFY(run(probe));
         QTEST(probe.goodsRows.join("|"), "rows");
         Probe nothing(
@@ -122,7 +84,7 @@ private slots:
     void pictures()
     {
         const QList<PictureLink> pictures = {{"o\t1", "a [b].jpg"}, {"o2", ""}};
-        Probe probe(QString::fromUtf8(goods));
+        Probe probe(source("goods.xml"));
         for (int run = 0; run < 2; ++run) {
             QVERIFY(probe.exportYmlOffers(false, true, true, true, false, 1.0));
             QCOMPARE(probe.pictureLinks, pictures);
@@ -134,7 +96,7 @@ private slots:
     void factorInTheExchangeFile()
     {
         const QTemporaryDir folder;
-        Probe probe(QString::fromUtf8(goods));
+        Probe probe(source("goods.xml"));
         probe.outputFileName = folder.filePath("out.txt");
         probe.outputEnabled = true;
         QVERIFY(probe.openOutput());

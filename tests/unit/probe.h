@@ -5,6 +5,15 @@
 
 #include <QtTest>
 
+/// The text of a file of data/.
+inline QString source(const char *name)
+{
+    QFile file(QStringLiteral(DATA "/") + QLatin1String(name));
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("no file %s", name);
+    return QString::fromUtf8(file.readAll());
+}
+
 /// A reader whose document is given as text, and whose fields a test can look at.
 class Probe : public CommXmlReader
 {
