@@ -9,12 +9,12 @@ constexpr QLatin1String rowPrefix = "##\t"_l1;
 constexpr QLatin1String htmlCode = "DISHTML"_l1;
 constexpr QLatin1String descriptionMarker = "-----"_l1;
 
-GoodsRow::GoodsRow(const QString &goodsCode, bool prefixed)
-    : row(prefixed ? rowPrefix + goodsCode : goodsCode)
+static int fieldSize(QLatin1String rowCode, const QString &value)
 {
+    return 2 + rowCode.size() + value.size();
 }
 
-void GoodsRow::addField(QLatin1String rowCode, const QString &value)
+static void addField(QString &row, QLatin1String rowCode, const QString &value)
 {
     row += tab;
     row += rowCode;
@@ -22,23 +22,34 @@ void GoodsRow::addField(QLatin1String rowCode, const QString &value)
     row += value;
 }
 
-void GoodsRow::addFields(const FieldValues &values)
+QString goodsRow(const QString &goodsCode, bool prefixed, const FieldValues &values)
 {
+    // Rows stay in memory to the end of the run: each gets just the room it needs.
+    int size = rowPrefix.size() + goodsCode.size() + fieldSize(htmlCode, QStringLiteral("1"));
+    for (const FieldValue &value : values)
+        size += fieldSize(value.target.rowCode, value.rowText);
+
+    QString row;
+    row.reserve(size);
+    if (prefixed)
+        row += rowPrefix;
+    row += goodsCode;
     for (const FieldValue &value : values) {
         if (!value.target.rowCode.isEmpty())
-            addField(value.target.rowCode, value.rowText);
+            addField(row, value.target.rowCode, value.rowText);
     }
+    return row;
 }
 
-void appendGoodsRow(QStringList &goodsRows, GoodsRow row, const QString &description, HtmlMark mark)
+void appendGoodsRow(QStringList &goodsRows, QString row, const QString &description, HtmlMark mark)
 {
     if (description.isEmpty()) {
-        goodsRows.append(row.text());
+        goodsRows.append(row);
         return;
     }
     if (mark != HtmlMark::None)
-        row.addField(htmlCode, QString::number(mark == HtmlMark::Html ? 1 : 0));
-    goodsRows << row.text() << descriptionMarker << description << descriptionMarker;
+        addField(row, htmlCode, QString::number(mark == HtmlMark::Html ? 1 : 0));
+    goodsRows << row << descriptionMarker << description << descriptionMarker;
 }
 
 } // namespace exchange

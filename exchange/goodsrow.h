@@ -17,27 +17,12 @@ enum class HtmlMark {
     Html,      ///< DISHTML 1
 };
 
-/// Builds one goods row: the goods code, then a tab, a field code, a tab and a value per field.
-class GoodsRow
-{
-public:
-    /// Starts the row with `goodsCode`, behind "##" and a tab where `prefixed`.
-    GoodsRow(const QString &goodsCode, bool prefixed);
-
-    void addField(QLatin1String rowCode, const QString &value);
-
-    /// Adds those of `values` that have a place in goods rows.
-    void addFields(const FieldValues &values);
-
-    const QString &text() const { return row; }
-
-private:
-    QString row;
-};
+/// A goods row: the goods code, behind "##" and a tab where `prefixed`, then a tab, a field code, a
+/// tab and the value for each of `values` that has a place in goods rows.
+QString goodsRow(const QString &goodsCode, bool prefixed, const FieldValues &values);
 
 /// Appends `row` to `goodsRows`, and behind it, where `description` is not empty, the description
 /// between two marker entries; the row is marked with `mark` then.
-void appendGoodsRow(QStringList &goodsRows, GoodsRow row, const QString &description,
-                    HtmlMark mark);
+void appendGoodsRow(QStringList &goodsRows, QString row, const QString &description, HtmlMark mark);
 
 } // namespace exchange

@@ -42,7 +42,6 @@ void CommXmlReader::exportGoods(const QString &code, const FieldValues &values,
 {
     writeGoods(code, values, description);
 
-    GoodsRow row(code, options.prefixRows);
-    row.addFields(values);
-    appendGoodsRow(goodsRows, row, description, options.htmlMark);
+    appendGoodsRow(goodsRows, goodsRow(code, options.prefixRows, values), description,
+                   options.htmlMark);
 }

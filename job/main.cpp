@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "job/console.h"
+#include "job/idledispatcher.h"
 #include "job/platform.h"
 #include "reader/commxmlreader.h"
 
@@ -104,6 +105,7 @@ int main(int argc, char *argv[])
 {
     preparePlatform();
     fixLog();
+    QCoreApplication::setEventDispatcher(new IdleDispatcher); // the application's from now on
     const QCoreApplication application(argc, argv);
     consoleOut().setCodec("cp866");
 

@@ -6,6 +6,7 @@
 
 #include "exchange/format.h"
 #include "exchange/goodsrow.h"
+#include "reader/sectionindex.h"
 
 #include <QDomDocument>
 #include <QFile>
@@ -162,10 +163,14 @@ protected:
     SourceDialect dialect = UndeterminedDialect;
 
 private:
+    SectionIndex groupIndex;    // elements of CommerceML that bear an id
+    SectionIndex categoryIndex; // YML categories
+
     // --- What the exporters share -----------------------------------------------------------
 
-    /// Puts the text of `name` in front of the path in pathBuffer; false if `name` is null.
-    bool prependToPath(const QDomElement &name);
+    /// The path of `names`, which come from the bottom up. It begins at the first that is not
+    /// empty.
+    static QString joinedPath(QStringList names);
 
     /// The one gate to the exchange file: a line of `key` and `value`, flushed.
     void writeLine(QLatin1String key, const QString &value = QString());

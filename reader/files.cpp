@@ -1,10 +1,28 @@
 // SPDX-License-Identifier: MIT
 #include "job/console.h"
 #include "reader/commxmlreader.h"
+#include "reader/vocabulary.h"
 
 #include <QCoreApplication>
 
-CommXmlReader::CommXmlReader() = default;
+#include <optional>
+
+static std::optional<QString> elementText(const QDomElement &element)
+{
+    return element.text();
+}
+
+static std::optional<QString> idAttribute(const QDomElement &element)
+{
+    const QDomNode id = element.attributes().namedItem(QStringLiteral("id"));
+    return id.isNull() ? std::nullopt : std::optional(id.nodeValue());
+}
+
+CommXmlReader::CommXmlReader()
+    : groupIndex({commerceml::idElement, true, elementText}),
+      categoryIndex({QStringLiteral("category"), false, idAttribute})
+{
+}
 
 CommXmlReader::~CommXmlReader()
 {

@@ -2,6 +2,9 @@
 #include "reader/commxmlreader.h"
 #include "reader/vocabulary.h"
 
+#include <algorithm>
+#include <optional>
+
 using namespace commerceml;
 
 /// The group that holds `group` among its subgroups; null for a group at the top.
@@ -13,28 +16,38 @@ static QDomNode parentGroup(const QDomNode &group)
                                                                                  : QDomNode();
 }
 
-bool CommXmlReader::prependToPath(const QDomElement &name)
+QString CommXmlReader::joinedPath(QStringList names)
 {
-    if (name.isNull())
-        return false;
-    pathBuffer =
-        pathBuffer.isEmpty() ? name.text() : name.text() + QLatin1String(" \\ ") + pathBuffer;
-    return true;
+    while (!names.isEmpty() && names.first().isEmpty())
+        names.removeFirst();
+    std::reverse(names.begin(), names.end());
+    return names.join(QLatin1String(" \\ "));
 }
 
 QString CommXmlReader::groupPath(const QString &id)
 {
-    pathBuffer = QLatin1String("");
-    for (const QDomNode &section : qAsConst(groups)) {
-        // Not only groups bear ids: the element that comes first in the section is taken.
-        QDomNode group = findElementByText(section, idElement, id).parentNode();
-        prependToPath(group.firstChildElement(nameElement));
-        do {
-            group = parentGroup(group);
-        } while (prependToPath(group.firstChildElement(nameElement)));
+    if (const std::optional<QString> path = groupIndex.rememberedPath(groups, id))
+        return pathBuffer = *path;
 
+    pathBuffer = QLatin1String("");
+    // Not only groups bear ids: the element that comes first in a section is taken.
+    for (const SectionIndex::Entry &found : groupIndex.find(groups, id)) {
+        QDomNode group = found.element.parentNode();
+        QDomElement name = group.firstChildElement(nameElement);
+        QStringList names;
+        if (!name.isNull())
+            names.append(name.text());
+        for (;;) {
+            group = parentGroup(group);
+            name = group.firstChildElement(nameElement);
+            if (name.isNull())
+                break;
+            names.append(name.text());
+        }
+        pathBuffer = joinedPath(names);
         if (!pathBuffer.isEmpty())
             break;
     }
+    groupIndex.rememberPath(id, pathBuffer);
     return pathBuffer;
 }

@@ -57,9 +57,8 @@ bool CommXmlReader::collectDocumentRows(bool withGoods)
             if (id.isNull())
                 continue;
             code = id.text();
-            GoodsRow row(code, prefixed);
-            row.addFields(readFields(*this, line, orderGoodsFields()));
-            goodsRows.append(row.text());
+            const FieldValues values = readFields(*this, line, orderGoodsFields());
+            goodsRows.append(goodsRow(code, prefixed, values));
         }
         // The quantity brings its tab along: without it the price takes its place.
         QString row = code + QLatin1Char('\t');
