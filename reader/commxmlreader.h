@@ -33,7 +33,7 @@ using PictureLink = QPair<QString, QString>;
 class CommXmlReader
 {
 public:
-    QList<PictureLink> pictureLinks; ///< pictures of the goods of the last export
+    QList<PictureLink> pictureLinks; ///< filled by exportYmlOffers()
     QString outputFileName;          ///< path of the exchange file; null after closeOutput()
     bool outputEnabled = false;      ///< no line reaches the exchange file while this is false
 
@@ -95,11 +95,11 @@ public:
     // --- Paths ------------------------------------------------------------------------------
 
     /// The names from the top group down to the CommerceML group with this "Ид", joined by " \ ";
-    /// empty if no section of groups holds the id.
+    /// empty if no section of groups gives one.
     QString groupPath(const QString &id);
 
     /// The names from the root category down to the YML category with this "id", joined by " \ ";
-    /// empty if no section of groups holds the id. Parents are sought in the same section; a chain
+    /// empty if no section of groups gives one. Parents are sought in the same section; a chain
     /// of them ends where it leads back to a category already walked.
     QString ymlCategoryPath(const QString &id);
 

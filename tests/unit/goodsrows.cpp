@@ -93,7 +93,7 @@ private slots:
         QVERIFY(probe.pictureLinks.isEmpty());
     }
 
-    void factorInTheExchangeFile()
+    void exchangeFileOfOtherParameters()
     {
         const QTemporaryDir folder;
         Probe probe(source("goods.xml"));
@@ -101,9 +101,12 @@ private slots:
         probe.outputEnabled = true;
         QVERIFY(probe.openOutput());
         QVERIFY(probe.exportPrices(false, false, true, true, true, 1.1));
+        QVERIFY(probe.exportYmlOffers(false, false, true, false, false, 1.0));
         QFile file(probe.outputFileName);
         QVERIFY(file.open(QIODevice::ReadOnly));
-        QVERIFY(file.readAll().contains("\nprice:165\nprice_discount:110\n##endgoods\n"));
+        const QByteArray lines = file.readAll();
+        QVERIFY(lines.contains("\nprice:165\nprice_discount:110\n##endgoods\n"));
+        QVERIFY(lines.contains("\nname:m [3]\nname:[N] n [4]\nbarcode:b [5]\n"));
     }
 };
 

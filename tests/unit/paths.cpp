@@ -33,7 +33,8 @@ private slots:
         QTest::newRow("nameless leaf") << "Tools [1]\t";
         QTest::newRow("below nameless") << " \\ B";
         QTest::newRow("orphan") << "O";
-        QTest::newRow("empty parent") << "E";
+        QTest::newRow("empty parent") << "empty id \\ E";
+        QTest::newRow("only second") << "X";
         QTest::newRow("self") << "S";
         QTest::newRow("loop 1") << "L2 \\ L1";
         QTest::newRow("into the loop") << "L2 \\ L1 \\ I";
