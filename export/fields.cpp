@@ -3,29 +3,16 @@
 
 #include "reader/commxmlreader.h"
 
-#include <QVarLengthArray>
-
-exchange::FieldValues readFields(CommXmlReader &reader, const QDomNode &item,
+exchange::FieldValues readFields(CommXmlReader &reader, const ChildLookup &item,
                                  const FieldTable &table)
 {
-    // One walk over the children for all fields; a lookup for each would walk as often.
-    QVarLengthArray<QDomElement, 24> elements(table.size());
-    for (QDomElement child = item.firstChildElement(); !child.isNull();
-         child = child.nextSiblingElement()) {
-        const QString name = child.tagName();
-        for (int i = 0; i < table.size(); ++i) {
-            if (table.at(i).element == name && elements[i].isNull())
-                elements[i] = child;
-        }
-    }
-
     exchange::FieldValues values;
     values.reserve(table.size());
-    for (int i = 0; i < table.size(); ++i) {
-        if (elements[i].isNull())
+    for (const Field &field : table) {
+        const QDomElement element = item.first(field.element);
+        if (element.isNull())
             continue;
-        const Field &field = table.at(i);
-        if (const std::optional<QString> value = field.reading(reader, elements[i]))
+        if (const std::optional<QString> value = field.reading(reader, element))
             values.append({field.target, field.rowCleaning(*value), field.lineCleaning(*value)});
     }
     return values;

@@ -5,6 +5,7 @@
 
 #include "exchange/cleaning.h"
 #include "exchange/format.h"
+#include "reader/childlookup.h"
 
 #include <QDomElement>
 #include <QString>
@@ -31,7 +32,7 @@ struct Field {
 using FieldTable = QVector<Field>;
 
 /// The values of an item's fields, in the order of the table. Absent elements give none.
-exchange::FieldValues readFields(CommXmlReader &reader, const QDomNode &item,
+exchange::FieldValues readFields(CommXmlReader &reader, const ChildLookup &item,
                                  const FieldTable &table);
 
 // Readings that any table may use.

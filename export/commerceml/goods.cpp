@@ -54,7 +54,7 @@ const FieldTable &orderGoodsFields()
     return table;
 }
 
-QString goodsDescription(const QDomElement &goods)
+QString goodsDescription(const ChildLookup &goods)
 {
-    return goods.firstChildElement(QStringLiteral("Описание")).text();
+    return goods.first(QStringLiteral("Описание")).text();
 }

@@ -16,4 +16,4 @@ const FieldTable &offerFields();
 const FieldTable &orderGoodsFields();
 
 /// The description of a good or an offer; empty if it has none.
-QString goodsDescription(const QDomElement &goods);
+QString goodsDescription(const ChildLookup &goods);

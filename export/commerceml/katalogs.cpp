@@ -12,8 +12,9 @@ bool CommXmlReader::exportKatalogs(bool prefixRows, bool withDescription, bool m
     const GoodsOptions options{prefixRows, markHtml ? HtmlMark::Html : HtmlMark::None};
     for (const QDomNode &katalog : qAsConst(katalogs)) {
         const QDomElement list = katalog.firstChildElement(goodsListElement);
-        for (const QDomElement &goods : ChildElements(list, goodsElement)) {
-            const QDomElement id = goods.firstChildElement(idElement);
+        for (const QDomElement &element : ChildElements(list, goodsElement)) {
+            const ChildLookup goods(element);
+            const QDomElement id = goods.first(idElement);
             if (id.isNull())
                 continue;
             exportGoods(id.text(), readFields(*this, goods, catalogueGoodsFields()),

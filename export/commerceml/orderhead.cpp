@@ -29,7 +29,7 @@ void CommXmlReader::exportOrderHead(const QDomNode &doc, int documentType)
     writeLine(orderBlock.begin);
     writeLine("number:"_l1, doc.firstChildElement(numberElement).text());
     writeLine("type:"_l1, QString::number(documentType));
-    writeFields(readFields(*this, doc, orderFields));
+    writeFields(readFields(*this, ChildLookup(doc), orderFields));
 
     QString requisitesText;
     const QDomElement list = doc.firstChildElement(QStringLiteral("ЗначенияРеквизитов"));

@@ -29,9 +29,10 @@ bool CommXmlReader::exportOrderLines(const QDomNode &doc, bool withGoods)
     const ChildElements lines = orderLines(doc);
     if (lines.isEmpty())
         return false;
-    for (const QDomElement &line : lines) {
+    for (const QDomElement &element : lines) {
+        const ChildLookup line(element);
         if (withGoods) {
-            const QDomElement id = line.firstChildElement(idElement);
+            const QDomElement id = line.first(idElement);
             if (id.isNull())
                 continue;
             writeGoods(id.text(), readFields(*this, line, orderGoodsFields()));
@@ -50,10 +51,11 @@ bool CommXmlReader::collectDocumentRows(bool withGoods)
     if (lines.isEmpty())
         return false;
     constexpr bool prefixed = true;
-    for (const QDomElement &line : lines) {
+    for (const QDomElement &element : lines) {
+        const ChildLookup line(element);
         QString code;
         if (withGoods) {
-            const QDomElement id = line.firstChildElement(idElement);
+            const QDomElement id = line.first(idElement);
             if (id.isNull())
                 continue;
             code = id.text();
@@ -62,10 +64,10 @@ bool CommXmlReader::collectDocumentRows(bool withGoods)
         }
         // The quantity brings its tab along: without it the price takes its place.
         QString row = code + QLatin1Char('\t');
-        const QDomElement quantity = line.firstChildElement(quantityElement);
+        const QDomElement quantity = line.first(quantityElement);
         if (!quantity.isNull())
             row += quantity.text() + QLatin1Char('\t');
-        goodsRows.append(row + line.firstChildElement(unitPriceElement).text());
+        goodsRows.append(row + line.first(unitPriceElement).text());
     }
     return true;
 }

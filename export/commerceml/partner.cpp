@@ -76,7 +76,7 @@ FieldValues readContacts(const QDomElement &partner)
 void CommXmlReader::exportPartner(const QDomElement &partner)
 {
     writeLine(partnerBlock.begin);
-    writeFields(readFields(*this, partner, partnerFields));
+    writeFields(readFields(*this, ChildLookup(partner), partnerFields));
     writeFields(readContacts(partner));
     writeLine(partnerBlock.end);
 }

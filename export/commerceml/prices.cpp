@@ -31,12 +31,12 @@ bool isHigher(double left, double right)
 
 /// The prices of an offer: each by its position for the goods row, then the highest for the
 /// exchange file.
-FieldValues readPrices(const QDomElement &offer, std::optional<double> factor)
+FieldValues readPrices(const ChildLookup &offer, std::optional<double> factor)
 {
     FieldValues values;
     QVector<double> numbers;
     const auto *rowCode = std::begin(priceRowCodes);
-    const QDomElement list = offer.firstChildElement(QStringLiteral("Цены"));
+    const QDomElement list = offer.first(QStringLiteral("Цены"));
     for (const QDomElement &price : ChildElements(list, QStringLiteral("Цена"))) {
         if (rowCode == std::end(priceRowCodes))
             break;
@@ -73,8 +73,9 @@ bool CommXmlReader::exportPrices(bool prefixRows, bool withDescription, bool mar
     const std::optional<double> factor = applyFactor ? std::optional(priceFactor) : std::nullopt;
     for (const QDomNode &package : qAsConst(prices)) {
         const QDomElement list = package.firstChildElement(QStringLiteral("Предложения"));
-        for (const QDomElement &offer : ChildElements(list, QStringLiteral("Предложение"))) {
-            const QDomElement id = offer.firstChildElement(idElement);
+        for (const QDomElement &element : ChildElements(list, QStringLiteral("Предложение"))) {
+            const ChildLookup offer(element);
+            const QDomElement id = offer.first(idElement);
             if (id.isNull())
                 continue;
             exportGoods(id.text(),

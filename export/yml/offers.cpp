@@ -77,15 +77,15 @@ FieldTable offerFields(bool extended, std::optional<double> factor)
 }
 
 /// Empty if the offer has none.
-QString description(const QDomElement &offer)
+QString description(const ChildLookup &offer)
 {
-    return offer.firstChildElement(QStringLiteral("description")).text();
+    return offer.first(QStringLiteral("description")).text();
 }
 
 /// An extended offer tells that nothing of the good is left.
-bool isSoldOut(const QDomElement &offer)
+bool isSoldOut(const ChildLookup &offer)
 {
-    return offer.firstChildElement(QStringLiteral("count")).text() == QLatin1String("0");
+    return offer.first(QStringLiteral("count")).text() == QLatin1String("0");
 }
 
 } // namespace
@@ -100,10 +100,11 @@ bool CommXmlReader::exportYmlOffers(bool prefixRows, bool withDescription, bool 
     const QString piece = QStringLiteral("шт"); // no element tells the unit
 
     for (const QDomNode &section : qAsConst(prices)) {
-        for (const QDomElement &offer : ChildElements(section, QStringLiteral("offer"))) {
-            const QString code = attributeValue(offer, QStringLiteral("id"));
+        for (const QDomElement &element : ChildElements(section, QStringLiteral("offer"))) {
+            const QString code = attributeValue(element, QStringLiteral("id"));
             if (code.isEmpty())
                 continue;
+            const ChildLookup offer(element);
             FieldValues values = readFields(*this, offer, fields);
             if (extendedOffers && isSoldOut(offer)) {
                 writeGoods(code, values);
@@ -113,7 +114,7 @@ bool CommXmlReader::exportYmlOffers(bool prefixRows, bool withDescription, bool 
                 exportGoods(code, values, withDescription ? description(offer) : QString(),
                             options);
             }
-            const QDomElement picture = offer.firstChildElement(QStringLiteral("picture"));
+            const QDomElement picture = offer.first(QStringLiteral("picture"));
             if (!picture.isNull())
                 pictureLinks.append({code, withoutTabs(picture.text())});
         }
