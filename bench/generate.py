@@ -10,6 +10,7 @@ yml         a shop feed with nested categories
 """
 
 import argparse
+import contextlib
 import random
 import sys
 
@@ -18,11 +19,14 @@ WORDS = ("дрель лобзик саморез перфоратор шуруп
 
 
 class Source:
+    """Writes element by element, indented as exports are."""
+
     def __init__(self, arguments):
         self.goods = arguments.goods
         self.groups = arguments.groups
         self.random = random.Random(arguments.seed)
-        self.write = sys.stdout.write
+        self.out = sys.stdout.write
+        self.depth = 0
 
     def uid(self):
         return "%08x-%04x-11ef-8a01-0050569b1c2d" % (self.random.getrandbits(32),
@@ -34,121 +38,153 @@ class Source:
     def number(self, most):
         return "%d.%02d" % (self.random.randrange(1, most), self.random.randrange(100))
 
+    def line(self, text):
+        self.out("\t" * self.depth + text + "\n")
+
+    def leaf(self, name, text, attributes=""):
+        self.line("<%s%s>%s</%s>" % (name, attributes, text, name))
+
+    @contextlib.contextmanager
+    def element(self, name, attributes=""):
+        self.line("<%s%s>" % (name, attributes))
+        self.depth += 1
+        yield
+        self.depth -= 1
+        self.line("</%s>" % name)
+
+    def named(self, name):
+        self.leaf("Ид", self.uid())
+        self.leaf("Наименование", name)
+
     def classifier(self, properties):
         """Groups five to a parent; their ids."""
         ids = [self.uid() for _ in range(self.groups)]
-        self.write("<Классификатор>\n<Ид>%s</Ид><Наименование>Классификатор</Наименование>\n" %
-                   self.uid())
-        if properties:
-            self.properties()
-        self.write("<Группы>\n")
-        # Group i holds the groups 5i + 1 to 5i + 5.
-        stack = [("open", 0)] if ids else []
-        while stack:
-            step, i = stack.pop()
-            if step == "close":
-                self.write("</Группы></Группа>\n" if 5 * i + 1 < len(ids) else "</Группа>\n")
-                continue
-            self.write("<Группа><Ид>%s</Ид><Наименование>Группа %d</Наименование>" % (ids[i], i))
-            stack.append(("close", i))
-            if 5 * i + 1 < len(ids):
-                self.write("<Группы>\n")
-                stack += [("open", child) for child in
-                          range(min(5 * i + 5, len(ids) - 1), 5 * i, -1)]
-        self.write("</Группы>\n</Классификатор>\n")
+        with self.element("Классификатор"):
+            self.named("Классификатор (Каталог товаров)")
+            with self.element("Группы"):
+                if ids:
+                    self.group(ids, 0)
+            if properties:
+                self.properties()
         return ids
 
-    def properties(self):
-        self.write("<Свойства>\n")
-        for i in range(self.groups):
-            self.write("<Свойство><Ид>%s</Ид><Наименование>Свойство %d</Наименование>"
-                       "<ВариантыЗначений>\n" % (self.uid(), i))
-            for _ in range(20):
-                self.write("<Справочник><Ид>%s</Ид><Значение>%s</Значение></Справочник>\n" %
-                           (self.uid(), self.words(2)))
-            self.write("</ВариантыЗначений></Свойство>\n")
-        self.write("</Свойства>\n")
+    def group(self, ids, i):
+        """Group i holds the groups 5i + 1 to 5i + 5."""
+        with self.element("Группа"):
+            self.leaf("Ид", ids[i])
+            self.leaf("Наименование", "Группа %d" % i)
+            nested = range(5 * i + 1, min(5 * i + 6, len(ids)))
+            if nested:
+                with self.element("Группы"):
+                    for child in nested:
+                        self.group(ids, child)
 
-    def commerceml(self, content):
-        self.write('<?xml version="1.0" encoding="UTF-8"?>\n'
-                   '<КоммерческаяИнформация ВерсияСхемы="2.08">\n')
-        content()
-        self.write("</КоммерческаяИнформация>\n")
+    def properties(self):
+        with self.element("Свойства"):
+            for i in range(self.groups):
+                with self.element("Свойство"):
+                    self.named("Свойство %d" % i)
+                    with self.element("ВариантыЗначений"):
+                        for _ in range(20):
+                            with self.element("Значение"):
+                                self.leaf("Ид", self.uid())
+                                self.leaf("Наименование", self.words(2))
+
+    def requisites(self, pairs):
+        with self.element("ЗначенияРеквизитов"):
+            for name, value in pairs:
+                with self.element("ЗначениеРеквизита"):
+                    self.leaf("Наименование", name)
+                    self.leaf("Значение", value)
+
+    def commerceml(self, content, *arguments):
+        self.line('<?xml version="1.0" encoding="UTF-8"?>')
+        with self.element("КоммерческаяИнформация", ' ВерсияСхемы="2.08"'):
+            content(*arguments)
 
     def catalogue(self, properties=False):
         groups = self.classifier(properties)
-        self.write("<Каталог>\n<Ид>%s</Ид><Наименование>Каталог</Наименование>\n<Товары>\n" %
-                   self.uid())
-        for i in range(self.goods):
-            self.write(
-                "<Товар>\n<Ид>%s</Ид>\n<Штрихкод>46%011d</Штрихкод>\n<Артикул>А-%d</Артикул>\n"
-                "<Наименование>%s %d</Наименование>\n"
-                '<БазоваяЕдиница Код="796" НаименованиеПолное="Штука">шт</БазоваяЕдиница>\n'
-                % (self.uid(), i, i, self.words(3), i))
+        with self.element("Каталог"):
+            self.named("Основной каталог товаров")
+            with self.element("Товары"):
+                for i in range(self.goods):
+                    self.good(groups, i)
+
+    def good(self, groups, i):
+        with self.element("Товар"):
+            self.leaf("Ид", self.uid())
+            self.leaf("Штрихкод", "46%011d" % i)
+            self.leaf("Артикул", "А-%d" % i)
+            self.leaf("Наименование", "%s %d" % (self.words(2), i))
+            self.leaf("БазоваяЕдиница", "шт", ' Код="796" НаименованиеПолное="Штука"')
             if groups:
-                self.write("<Группы><Ид>%s</Ид></Группы>\n" % self.random.choice(groups))
-            self.write("<Описание>%s.\n%s.</Описание>\n" % (self.words(8), self.words(6)))
-            self.write("<ЗначенияРеквизитов>\n")
-            for name in ("ВидНоменклатуры", "ТипНоменклатуры"):
-                self.write("<ЗначениеРеквизита><Наименование>%s</Наименование>"
-                           "<Значение>Товар</Значение></ЗначениеРеквизита>\n" % name)
-            self.write("</ЗначенияРеквизитов>\n</Товар>\n")
-        self.write("</Товары>\n</Каталог>\n")
+                with self.element("Группы"):
+                    self.leaf("Ид", self.random.choice(groups))
+            self.leaf("Описание", self.words(5))
+            self.requisites((("ВидНоменклатуры", "Товар"), ("Вес", self.number(9))))
 
     def offers(self):
-        self.write("<ПакетПредложений>\n<Ид>%s</Ид>\n<Предложения>\n" % self.uid())
-        for i in range(self.goods):
-            self.write("<Предложение>\n<Ид>%s</Ид>\n<Наименование>%s %d</Наименование>\n"
-                       '<БазоваяЕдиница Код="796">шт</БазоваяЕдиница>\n<Цены>\n'
-                       % (self.uid(), self.words(3), i))
-            for _ in range(2):
-                self.write("<Цена><ИдТипаЦены>%s</ИдТипаЦены><ЦенаЗаЕдиницу>%s</ЦенаЗаЕдиницу>"
-                           "<Валюта>RUB</Валюта></Цена>\n" % (self.uid(), self.number(9999)))
-            self.write("</Цены>\n<Количество>%d</Количество>\n</Предложение>\n" %
-                       self.random.randrange(100))
-        self.write("</Предложения>\n</ПакетПредложений>\n")
+        with self.element("ПакетПредложений"):
+            self.named("Пакет предложений")
+            with self.element("Предложения"):
+                for i in range(self.goods):
+                    with self.element("Предложение"):
+                        self.named("%s %d" % (self.words(2), i))
+                        self.leaf("БазоваяЕдиница", "шт", ' Код="796"')
+                        with self.element("Цены"):
+                            for _ in range(2):
+                                with self.element("Цена"):
+                                    self.leaf("ИдТипаЦены", self.uid())
+                                    self.leaf("ЦенаЗаЕдиницу", self.number(9999))
+                                    self.leaf("Валюта", "RUB")
+                        self.leaf("Количество", self.random.randrange(100))
 
     def orders(self):
         for i in range(self.goods // 10):
-            self.write("<Документ>\n<Ид>%d</Ид><Номер>%d</Номер><Дата>2026-03-01</Дата>\n"
-                       "<Контрагенты><Контрагент><Ид>%s</Ид><Наименование>%s</Наименование>"
-                       "<Роль>Покупатель</Роль></Контрагент></Контрагенты>\n<Товары>\n"
-                       % (i, i, self.uid(), self.words(2)))
-            for _ in range(3):
-                self.write("<Товар><Ид>%s</Ид><Наименование>%s</Наименование>"
-                           "<БазоваяЕдиница>шт</БазоваяЕдиница><ЦенаЗаЕдиницу>%s</ЦенаЗаЕдиницу>"
-                           "<Количество>%d</Количество></Товар>\n"
-                           % (self.uid(), self.words(3), self.number(9999),
-                              self.random.randrange(1, 9)))
-            self.write("</Товары>\n<ЗначенияРеквизитов><ЗначениеРеквизита>"
-                       "<Наименование>Статус заказа</Наименование><Значение>Принят</Значение>"
-                       "</ЗначениеРеквизита></ЗначенияРеквизитов>\n</Документ>\n")
+            with self.element("Документ"):
+                self.leaf("Ид", i)
+                self.leaf("Номер", i)
+                self.leaf("Дата", "2026-03-01")
+                with self.element("Контрагенты"), self.element("Контрагент"):
+                    self.named(self.words(2))
+                    self.leaf("Роль", "Покупатель")
+                with self.element("Товары"):
+                    for _ in range(3):
+                        with self.element("Товар"):
+                            self.named(self.words(2))
+                            self.leaf("БазоваяЕдиница", "шт")
+                            self.leaf("ЦенаЗаЕдиницу", self.number(9999))
+                            self.leaf("Количество", self.random.randrange(1, 9))
+                self.requisites((("Статус заказа", "Принят"),))
 
     def yml(self):
-        self.write('<?xml version="1.0" encoding="UTF-8"?>\n'
-                   '<!DOCTYPE yml_catalog SYSTEM "shops.dtd">\n'
-                   '<yml_catalog date="2026-03-01 10:00">\n<shop>\n<name>Магазин</name>\n'
-                   "<categories>\n")
-        for i in range(self.groups):
-            parent = ' parentId="%d"' % ((i - 1) // 5 + 1) if i else ""
-            self.write('<category id="%d"%s>Категория %d</category>\n' % (i + 1, parent, i + 1))
-        self.write("</categories>\n<offers>\n")
-        for i in range(self.goods):
-            self.write('<offer id="%d" available="true">\n<url>https://shop.example/%d</url>\n'
-                       "<price>%s</price>\n<currencyId>RUR</currencyId>\n" %
-                       (i, i, self.number(9999)))
+        self.line('<?xml version="1.0" encoding="UTF-8"?>')
+        self.line('<!DOCTYPE yml_catalog SYSTEM "shops.dtd">')
+        with self.element("yml_catalog", ' date="2026-03-01 10:00"'), self.element("shop"):
+            self.leaf("name", "Магазин")
+            with self.element("categories"):
+                for i in range(1, self.groups + 1):
+                    parent = ' parentId="%d"' % ((i - 2) // 5 + 1) if i > 1 else ""
+                    self.leaf("category", "Категория %d" % i, ' id="%d"%s' % (i, parent))
+            with self.element("offers"):
+                for i in range(self.goods):
+                    self.offer(i)
+
+    def offer(self, i):
+        with self.element("offer", ' id="%d" available="true"' % i):
+            self.leaf("url", "https://shop.example/product/%d" % i)
+            self.leaf("price", self.number(9999))
+            self.leaf("currencyId", "RUR")
             if self.groups:
-                self.write("<categoryId>%d</categoryId>\n" %
-                           self.random.randrange(1, self.groups + 1))
-            self.write("<picture>https://shop.example/img/%d.jpg</picture>\n"
-                       "<vendor>%s</vendor>\n<vendorCode>А-%d</vendorCode>\n<name>[%s] %s</name>\n"
-                       "<description>%s.\n%s.</description>\n<barcode>46%011d</barcode>\n"
-                       % (i, self.words(1), i, self.words(1), self.words(3), self.words(8),
-                          self.words(6), i))
+                self.leaf("categoryId", self.random.randrange(1, self.groups + 1))
+            self.leaf("picture", "https://shop.example/img/%d.jpg" % i)
+            self.leaf("vendor", self.words(1))
+            self.leaf("vendorCode", "А-%d" % i)
+            self.leaf("name", "[%s] %s" % (self.words(1), self.words(3)))
+            self.leaf("description", self.words(5))
+            self.leaf("barcode", "46%011d" % i)
             for _ in range(4):
-                self.write('<param name="%s">%s</param>\n' % (self.words(1), self.words(1)))
-            self.write("</offer>\n")
-        self.write("</offers>\n</shop>\n</yml_catalog>\n")
+                self.leaf("param", self.words(1), ' name="%s"' % self.words(1))
 
 
 def main():
@@ -164,7 +200,7 @@ def main():
     if arguments.kind == "yml":
         source.yml()
     elif arguments.kind == "properties":
-        source.commerceml(lambda: source.catalogue(properties=True))
+        source.commerceml(source.catalogue, True)
     else:
         source.commerceml(getattr(source, arguments.kind))
 
