@@ -97,6 +97,25 @@ private slots:
         }
         QVERIFY(filled > 1000);
     }
+
+    void idsOfOneHash()
+    {
+        QHash<uint, QString> seen;
+        QString a;
+        QString b;
+        while (a == b) {
+            b = QString::number(random.generate64(), 36);
+            a = seen.value(qHash(b), b);
+            seen.insert(qHash(b), b);
+        }
+        Probe probe(QString("<r><Классификатор><Ид>%1</Ид>"
+                            "<x><Ид>%2</Ид><Наименование>B</Наименование></x>"
+                            "<y><Ид>%1</Ид><Наименование>not first</Наименование></y>"
+                            "</Классификатор></r>")
+                        .arg(a, b));
+        QCOMPARE(probe.groupPath(a), QString());
+        QCOMPARE(probe.groupPath(b), QString("B"));
+    }
 };
 
 QTEST_APPLESS_MAIN(SectionIndexTest)
