@@ -63,6 +63,7 @@ bool CommXmlReader::openOutput()
     if (!outputEnabled)
         return true;
 
+    outputStream.setDevice(nullptr);
     outputFile.close();
     if (outputFileName.isEmpty()) {
         outputEnabled = false;

@@ -35,16 +35,14 @@ FieldTable offerFields(bool extended, std::optional<double> factor)
     const Reading price = [factor](CommXmlReader &, const QDomElement &element) {
         return withoutTabs(priceText(element.text(), factor));
     };
+    const Target typePrefix{"DP7"_l1, "DP7:"_l1};
+    const Target country{"DP3"_l1, "country:"_l1};
     const Target priceTarget{"DC1"_l1, priceKey};
     const Target vendor{"DP12"_l1, "vendor:"_l1};
 
     const FieldTable typeFields = {
         {QStringLiteral("vendorCode"), fullText, target::article, withoutTabs, withoutTabs},
-        {QStringLiteral("typePrefix"),
-         fullText,
-         {"DP7"_l1, "DP7:"_l1},
-         withoutBrackets,
-         withoutTabs},
+        {QStringLiteral("typePrefix"), fullText, typePrefix, withoutBrackets, withoutTabs},
         {QStringLiteral("model"), fullText, target::name, withoutBrackets, withoutTabs},
     };
     const FieldTable plainName = {
@@ -64,11 +62,7 @@ FieldTable offerFields(bool extended, std::optional<double> factor)
         {QStringLiteral("priceR"), price, priceTarget},
         {QStringLiteral("priceD"), price, {"DC5"_l1, "DC5:"_l1}},
         {QStringLiteral("Vendor"), fullText, vendor, withoutTabs, withoutTabs},
-        {QStringLiteral("LastCountry"),
-         fullText,
-         {"DP3"_l1, "country:"_l1},
-         withoutTabs,
-         withoutTabs},
+        {QStringLiteral("LastCountry"), fullText, country, withoutTabs, withoutTabs},
         {QStringLiteral("PN"), fullText, target::article, withoutBrackets, withoutTabs},
         {QStringLiteral("weight"), fullText, {"DP16"_l1, "weight:"_l1}, withoutTabs, withoutTabs},
     };
