@@ -21,7 +21,10 @@ public:
     int remainingTime(int) override { return -1; }
 
 #ifdef Q_OS_WIN
-    bool registerEventNotifier(QWinEventNotifier *) override { return false; }
+    bool registerEventNotifier(QWinEventNotifier *) override
+    {
+        return false;
+    }
     void unregisterEventNotifier(QWinEventNotifier *) override {}
 #endif
 
