@@ -8,6 +8,8 @@
 #include <QLoggingCategory>
 #include <QTextCodec>
 
+#include <memory>
+
 namespace
 {
 
@@ -105,7 +107,8 @@ int main(int argc, char *argv[])
 {
     preparePlatform();
     fixLog();
-    QCoreApplication::setEventDispatcher(new IdleDispatcher); // the application's from now on
+    // The application owns it from now on.
+    QCoreApplication::setEventDispatcher(std::make_unique<IdleDispatcher>().release());
     const QCoreApplication application(argc, argv);
     consoleOut().setCodec("cp866");
 

@@ -8,8 +8,9 @@ QVector<SectionIndex::Entry> SectionIndex::find(const QList<QDomNode> &sections,
 {
     refresh(sections);
     const uint hash = qHash(key);
-    auto entry = std::lower_bound(entries.cbegin(), entries.cend(), hash,
-                                  [](const Entry &e, uint wanted) { return e.hash < wanted; });
+    const auto *entry =
+        std::lower_bound(entries.cbegin(), entries.cend(), hash,
+                         [](const Entry &e, uint wanted) { return e.hash < wanted; });
     QVector<Entry> found;
     for (; entry != entries.cend() && entry->hash == hash; ++entry) {
         const bool sectionIsNew = found.isEmpty() || found.last().section != entry->section;
@@ -50,7 +51,7 @@ void SectionIndex::refresh(const QList<QDomNode> &sections)
     std::stable_sort(entries.begin(), entries.end(),
                      [&](const Entry &a, const Entry &b) { return place(a) < place(b); });
     // Only the first element with a key is ever found, and there can be very many others.
-    const auto others =
+    auto *const others =
         std::unique(entries.begin(), entries.end(), [&](const Entry &a, const Entry &b) {
             return place(a) == place(b) && kind.keyOf(a.element) == kind.keyOf(b.element);
         });

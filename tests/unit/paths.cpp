@@ -5,6 +5,19 @@ class PathsTest : public QObject
 {
     Q_OBJECT
 
+    /// The id is the name of the row.
+    static void check(const char *file, QString (CommXmlReader::*pathOf)(const QString &))
+    {
+        const QString id = QString::fromUtf8(QTest::currentDataTag());
+        Probe probe(source(file));
+        for (int time = 0; time < 2; ++time) { // nothing is left of the first time
+            QTEST((probe.*pathOf)(id), "path");
+            QTEST(probe.pathBuffer, "path");
+        }
+        probe.groups.clear();
+        QCOMPARE((probe.*pathOf)(id), QString());
+    }
+
 private slots:
     void groupPath_data()
     {
@@ -44,20 +57,6 @@ private slots:
     }
 
     void ymlCategoryPath() { check("categories.xml", &CommXmlReader::ymlCategoryPath); }
-
-private:
-    /// The id is the name of the row.
-    static void check(const char *file, QString (CommXmlReader::*pathOf)(const QString &))
-    {
-        const QString id = QString::fromUtf8(QTest::currentDataTag());
-        Probe probe(source(file));
-        for (int time = 0; time < 2; ++time) { // nothing is left of the first time
-            QTEST((probe.*pathOf)(id), "path");
-            QTEST(probe.pathBuffer, "path");
-        }
-        probe.groups.clear();
-        QCOMPARE((probe.*pathOf)(id), QString());
-    }
 };
 
 QTEST_GUILESS_MAIN(PathsTest)
