@@ -8,8 +8,6 @@
 #include <QLoggingCategory>
 #include <QTextCodec>
 
-#include <memory>
-
 namespace
 {
 
@@ -107,8 +105,8 @@ int main(int argc, char *argv[])
 {
     preparePlatform();
     fixLog();
-    // The application owns it from now on.
-    QCoreApplication::setEventDispatcher(std::make_unique<IdleDispatcher>().release());
+    QCoreApplication::setEventDispatcher(new IdleDispatcher); // which the application owns
+    // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks)
     const QCoreApplication application(argc, argv);
     consoleOut().setCodec("cp866");
 
