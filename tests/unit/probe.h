@@ -14,6 +14,16 @@ inline QString source(const char *name)
     return QString::fromUtf8(file.readAll());
 }
 
+/// Rows for a test: each line of a file of data/ is a name, a bar, and what is expected of it.
+inline void addRows(const char *name)
+{
+    QTest::addColumn<QString>("expected");
+    for (const QString &line : source(name).split('\n', Qt::SkipEmptyParts)) {
+        const int bar = line.indexOf('|');
+        QTest::newRow(qUtf8Printable(line.left(bar))) << line.mid(bar + 1);
+    }
+}
+
 /// A reader whose document is given as text, and whose fields a test can look at.
 class Probe : public CommXmlReader
 {
