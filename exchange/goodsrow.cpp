@@ -24,7 +24,7 @@ static void addField(QString &row, QLatin1String rowCode, const QString &value)
 
 QString goodsRow(const QString &goodsCode, bool prefixed, const FieldValues &values)
 {
-    // Rows stay in memory to the end of the run: each gets just the room it needs.
+    // Rows stay in memory to the end of the run: growing piece by piece would leave room unused.
     int size = rowPrefix.size() + goodsCode.size() + fieldSize(htmlCode, QStringLiteral("1"));
     for (const FieldValue &value : values)
         size += fieldSize(value.target.rowCode, value.rowText);

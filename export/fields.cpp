@@ -9,7 +9,9 @@ exchange::FieldValues readFields(CommXmlReader &reader, const ChildLookup &item,
     exchange::FieldValues values;
     values.reserve(table.size());
     for (const Field &field : table) {
-        const QDomElement element = item.first(field.element);
+        QDomElement element = item.first(field.element);
+        if (element.isNull() && !field.otherElement.isEmpty())
+            element = item.first(field.otherElement);
         if (element.isNull())
             continue;
         if (const std::optional<QString> value = field.reading(reader, element))

@@ -27,6 +27,7 @@ struct Field {
     exchange::Target target; ///< where the value goes
     exchange::Cleaning rowCleaning = exchange::unchanged;
     exchange::Cleaning lineCleaning = exchange::unchanged;
+    QString otherElement = {}; ///< read where the item does not have `element`
 };
 
 using FieldTable = QVector<Field>;

@@ -163,14 +163,11 @@ protected:
     SourceDialect dialect = UndeterminedDialect;
 
 private:
-    SectionIndex groupIndex;    // elements of CommerceML that bear an id
-    SectionIndex categoryIndex; // YML categories
+    // Not only groups bear ids: the element that comes first in a section ends the path.
+    SectionIndex groupIndex;
+    SectionIndex categoryIndex;
 
     // --- What the exporters share -----------------------------------------------------------
-
-    /// The path of `names`, which come from the bottom up. It begins at the first that is not
-    /// empty.
-    static QString joinedPath(QStringList names);
 
     /// The one gate to the exchange file: a line of `key` and `value`, flushed.
     void writeLine(QLatin1String key, const QString &value = QString());

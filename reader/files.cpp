@@ -5,22 +5,11 @@
 
 #include <QCoreApplication>
 
-#include <optional>
-
-static std::optional<QString> elementText(const QDomElement &element)
-{
-    return element.text();
-}
-
-static std::optional<QString> idAttribute(const QDomElement &element)
-{
-    const QDomNode id = element.attributes().namedItem(QStringLiteral("id"));
-    return id.isNull() ? std::nullopt : std::optional(id.nodeValue());
-}
-
 CommXmlReader::CommXmlReader()
-    : groupIndex({commerceml::idElement, true, elementText}),
-      categoryIndex({QStringLiteral("category"), false, idAttribute})
+    : groupIndex({commerceml::idElement, true, [](const QDomElement &id) { return id.text(); }}),
+      categoryIndex({QStringLiteral("category"), false, [](const QDomElement &category) {
+                         return attributeValue(category, QStringLiteral("id"));
+                     }})
 {
 }
 

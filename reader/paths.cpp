@@ -2,9 +2,6 @@
 #include "reader/commxmlreader.h"
 #include "reader/vocabulary.h"
 
-#include <algorithm>
-#include <optional>
-
 using namespace commerceml;
 
 /// The group that holds `group` among its subgroups; null for a group at the top.
@@ -16,38 +13,25 @@ static QDomNode parentGroup(const QDomNode &group)
                                                                                  : QDomNode();
 }
 
-QString CommXmlReader::joinedPath(QStringList names)
+/// The names of a group and of those above it. A group above without a name ends them.
+static QStringList groupNames(const QDomElement &id, int /*section*/)
 {
-    while (!names.isEmpty() && names.first().isEmpty())
-        names.removeFirst();
-    std::reverse(names.begin(), names.end());
-    return names.join(QLatin1String(" \\ "));
+    QStringList names;
+    QDomNode group = id.parentNode();
+    QDomElement name = group.firstChildElement(nameElement);
+    if (!name.isNull())
+        names.append(name.text());
+    for (;;) {
+        group = parentGroup(group);
+        name = group.firstChildElement(nameElement);
+        if (name.isNull())
+            return names;
+        names.append(name.text());
+    }
 }
 
 QString CommXmlReader::groupPath(const QString &id)
 {
-    if (const std::optional<QString> path = groupIndex.rememberedPath(groups, id))
-        return pathBuffer = *path;
-
-    pathBuffer = QLatin1String("");
-    // Not only groups bear ids: the element that comes first in a section is taken.
-    for (const SectionIndex::Entry &found : groupIndex.find(groups, id)) {
-        QDomNode group = found.element.parentNode();
-        QDomElement name = group.firstChildElement(nameElement);
-        QStringList names;
-        if (!name.isNull())
-            names.append(name.text());
-        for (;;) {
-            group = parentGroup(group);
-            name = group.firstChildElement(nameElement);
-            if (name.isNull())
-                break;
-            names.append(name.text());
-        }
-        pathBuffer = joinedPath(names);
-        if (!pathBuffer.isEmpty())
-            break;
-    }
-    groupIndex.rememberPath(id, pathBuffer);
+    pathBuffer = groupIndex.path(groups, id, groupNames);
     return pathBuffer;
 }

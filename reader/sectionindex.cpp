@@ -4,44 +4,47 @@
 #include <algorithm>
 #include <tuple>
 
-QVector<SectionIndex::Entry> SectionIndex::find(const QList<QDomNode> &sections, const QString &key)
+static QString joined(QStringList namesFromTheEnd)
 {
-    refresh(sections);
-    const uint hash = qHash(key);
-    const auto *entry =
-        std::lower_bound(entries.cbegin(), entries.cend(), hash,
-                         [](const Entry &e, uint wanted) { return e.hash < wanted; });
-    QVector<Entry> found;
-    for (; entry != entries.cend() && entry->hash == hash; ++entry) {
-        const bool sectionIsNew = found.isEmpty() || found.last().section != entry->section;
-        if (sectionIsNew && kind.keyOf(entry->element) == key)
-            found.append(*entry);
-    }
-    return found;
+    while (!namesFromTheEnd.isEmpty() && namesFromTheEnd.first().isEmpty())
+        namesFromTheEnd.removeFirst();
+    std::reverse(namesFromTheEnd.begin(), namesFromTheEnd.end());
+    return namesFromTheEnd.join(QLatin1String(" \\ "));
 }
 
-QDomElement SectionIndex::findIn(const QList<QDomNode> &sections, int section, const QString &key)
-{
-    const QVector<Entry> found = find(sections, key);
-    const auto *entry = std::find_if(found.cbegin(), found.cend(),
-                                     [=](const Entry &e) { return e.section == section; });
-    return entry != found.cend() ? entry->element : QDomElement();
-}
-
-std::optional<QString> SectionIndex::rememberedPath(const QList<QDomNode> &sections,
-                                                    const QString &key)
-{
-    refresh(sections);
-    const auto path = paths.constFind(key);
-    return path != paths.constEnd() ? std::optional(*path) : std::nullopt;
-}
-
-void SectionIndex::refresh(const QList<QDomNode> &sections)
+QString SectionIndex::path(const QList<QDomNode> &sections, const QString &key,
+                           const NamesOf &namesOf)
 {
     // Lists that nobody has changed share their data, and compare at once.
-    if (sections == indexed)
-        return;
-    indexed = sections;
+    if (sections != indexed) {
+        indexed = sections;
+        build();
+    }
+    const auto known = paths.constFind(key);
+    if (known != paths.constEnd())
+        return *known;
+
+    QString path;
+    for (const Entry &entry : find(key)) {
+        path = joined(namesOf(entry.element, entry.section));
+        if (!path.isEmpty())
+            break;
+    }
+    paths.insert(key, path);
+    return path;
+}
+
+QDomElement SectionIndex::findIn(int section, const QString &key) const
+{
+    for (const Entry &entry : find(key)) {
+        if (entry.section == section)
+            return entry.element;
+    }
+    return {};
+}
+
+void SectionIndex::build()
+{
     paths.clear();
     entries.clear();
     for (int i = 0; i < indexed.size(); ++i)
@@ -65,10 +68,26 @@ void SectionIndex::collect(const QDomNode &parent, int section)
         if (element.isNull())
             continue;
         if (element.tagName() == kind.tag) {
-            if (const std::optional<QString> key = kind.keyOf(element))
-                entries.append({qHash(*key), section, element});
+            const QString key = kind.keyOf(element);
+            if (!key.isNull())
+                entries.append({qHash(key), section, element});
         }
         if (kind.atAnyDepth)
             collect(element, section);
     }
+}
+
+QVector<SectionIndex::Entry> SectionIndex::find(const QString &key) const
+{
+    const uint hash = qHash(key);
+    const auto *entry =
+        std::lower_bound(entries.cbegin(), entries.cend(), hash,
+                         [](const Entry &e, uint wanted) { return e.hash < wanted; });
+    QVector<Entry> found;
+    for (; entry != entries.cend() && entry->hash == hash; ++entry) {
+        const bool sectionIsNew = found.isEmpty() || found.last().section != entry->section;
+        if (sectionIsNew && kind.keyOf(entry->element) == key)
+            found.append(*entry);
+    }
+    return found;
 }

@@ -14,19 +14,9 @@ std::optional<QString> categoryPath(CommXmlReader &reader, const QDomElement &ca
     return unlessEmpty(reader.ymlCategoryPath(categoryId.text()));
 }
 
-const QString nameElement = QStringLiteral("name");
-const QString russianNameElement = QStringLiteral("RussianName");
-
 std::optional<QString> shownName(CommXmlReader &, const QDomElement &name)
 {
     return displayName(name.text());
-}
-
-/// The name of an offer that has no Russian name.
-std::optional<QString> otherName(CommXmlReader &reader, const QDomElement &name)
-{
-    const bool hasRussianName = !name.parentNode().firstChildElement(russianNameElement).isNull();
-    return hasRussianName ? std::nullopt : shownName(reader, name);
 }
 
 /// The fields of an "offer". Prices are multiplied by `factor`, if there is one.
@@ -35,6 +25,7 @@ FieldTable offerFields(bool extended, std::optional<double> factor)
     const Reading price = [factor](CommXmlReader &, const QDomElement &element) {
         return withoutTabs(priceText(element.text(), factor));
     };
+    const QString name = QStringLiteral("name");
     const Target typePrefix{"DP7"_l1, "DP7:"_l1};
     const Target country{"DP3"_l1, "country:"_l1};
     const Target priceTarget{"DC1"_l1, priceKey};
@@ -46,11 +37,10 @@ FieldTable offerFields(bool extended, std::optional<double> factor)
         {QStringLiteral("model"), fullText, target::name, withoutBrackets, withoutTabs},
     };
     const FieldTable plainName = {
-        {nameElement, fullText, target::name, withoutBrackets, withoutTabs},
+        {name, fullText, target::name, withoutBrackets, withoutTabs},
     };
     const FieldTable extendedName = {
-        {russianNameElement, shownName, target::name},
-        {nameElement, otherName, target::name},
+        {QStringLiteral("RussianName"), shownName, target::name, unchanged, unchanged, name},
     };
     const FieldTable tradeFields = {
         {QStringLiteral("barcode"), fullText, target::barcode, withoutTabs, withoutTabs},

@@ -13,6 +13,7 @@ class TerminalTest : public QObject
 
     int terminal = -1;
     pid_t program = -1;
+
     bool isRaw() const
     {
         termios mode = {};
