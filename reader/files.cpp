@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "job/console.h"
 #include "reader/commxmlreader.h"
+#include "reader/sourceparser.h"
 #include "reader/vocabulary.h"
 
 #include <QCoreApplication>
@@ -36,7 +37,7 @@ bool CommXmlReader::loadSource(const QString &path)
         logMessage(QStringLiteral("Error open in file: %1 ").arg(path));
         return false;
     }
-    const bool parsed = document.setContent(&sourceFile);
+    const bool parsed = parseSource(sourceFile, document);
     sourceFile.close();
     if (!parsed) {
         logMessage(QStringLiteral("Error parce XML file: %1 ").arg(path));
@@ -59,7 +60,7 @@ bool CommXmlReader::openOutput()
         return false;
     }
     outputFile.setFileName(outputFileName);
-    if (!outputFile.open(QIODevice::WriteOnly)) {
+    if (!outputFile.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
         outputEnabled = false;
         printMessage(QObject::tr("Error opening output text file!"), false);
         printMessage(outputFileName, true);
