@@ -7,7 +7,7 @@
 #include <QCoreApplication>
 
 CommXmlReader::CommXmlReader()
-    : groupIndex({commerceml::idElement, true, [](const QDomElement &id) { return id.text(); }}),
+    : groupIndex({commerceml::idElement, true, groupIdText}),
       categoryIndex({QStringLiteral("category"), false, [](const QDomElement &category) {
                          return attributeValue(category, QStringLiteral("id"));
                      }})

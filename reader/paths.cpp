@@ -30,6 +30,23 @@ static QStringList groupNames(const QDomElement &id, int /*section*/)
     }
 }
 
+static void appendText(QString &text, const QDomNode &parent)
+{
+    for (QDomNode child = parent.firstChild(); !child.isNull(); child = child.nextSibling()) {
+        if (child.isText())
+            text += child.nodeValue();
+        else if (child.isElement())
+            appendText(text, child);
+    }
+}
+
+QString CommXmlReader::groupIdText(const QDomElement &id)
+{
+    QString text = QLatin1String("");
+    appendText(text, id);
+    return text;
+}
+
 QString CommXmlReader::groupPath(const QString &id)
 {
     pathBuffer = groupIndex.path(groups, id, groupNames);

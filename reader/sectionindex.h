@@ -2,8 +2,9 @@
 #pragma once
 
 #include <QDomElement>
-#include <QHash>
 #include <QList>
+#include <QMap>
+#include <QRandomGenerator>
 #include <QString>
 #include <QStringList>
 #include <QVector>
@@ -32,29 +33,41 @@ public:
     /// that the element was found in.
     using NamesOf = std::function<QStringList(const QDomElement &element, int section)>;
 
-    explicit SectionIndex(Kind kind) : kind(std::move(kind)) {}
+    /// `hashBase` is for tests: a source must not know it.
+    explicit SectionIndex(Kind kind, quint32 hashBase = QRandomGenerator::system()->generate())
+        : kind(std::move(kind)), hashBase(hashBase)
+    {
+    }
 
     /// The path to the first element with this key, names from the top down, joined by " \ ";
     /// names at its end that are empty are left out. That of the first section that gives one which
     /// is not empty; empty if none does.
     QString path(const QList<QDomNode> &sections, const QString &key, const NamesOf &namesOf);
 
-    /// The first element with this key in one section of the latest path(); null if there is none.
+    /// The first element with this key in one section of the latest path(), the sections nested in
+    /// it left out; null if there is none.
     QDomElement findIn(int section, const QString &key) const;
 
 private:
     struct Entry {
-        uint hash;
-        int section;
+        quint32 hash;
+        int section; // the innermost one around it
+        int position;
         QDomElement element;
+
+        std::pair<quint32, int> place() const { return {hash, section}; }
     };
+    using Entries = QVector<Entry>;
 
     void build();
     void collect(const QDomNode &parent, int section);
-    QVector<Entry> find(const QString &key) const;
+    quint32 hashOf(const QString &key) const;
+    Entries findFirsts(const QString &key) const;
 
     Kind kind;
+    quint32 hashBase;
     QList<QDomNode> indexed;
-    QHash<QString, QString> paths;
-    QVector<Entry> entries; // by hash, then by section, then in document order
+    QVector<int> enclosing; // the section around each section
+    Entries entries;        // by hash, then by section, then by position in the source
+    QMap<QString, QString> paths;
 };

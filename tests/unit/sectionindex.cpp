@@ -98,23 +98,21 @@ private slots:
         QVERIFY(filled > 1000);
     }
 
-    void idsOfOneHash()
+    void keysOfOneHash()
     {
-        QHash<uint, QString> seen;
-        QString a;
-        QString b;
-        while (a == b) {
-            b = QString::number(random.generate64(), 36);
-            a = seen.value(qHash(b), b);
-            seen.insert(qHash(b), b);
-        }
-        Probe probe(QString("<r><Классификатор><Ид>%1</Ид>"
-                            "<x><Ид>%2</Ид><Наименование>B</Наименование></x>"
-                            "<y><Ид>%1</Ид><Наименование>not first</Наименование></y>"
-                            "</Классификатор></r>")
-                        .arg(a, b));
-        QCOMPARE(probe.groupPath(a), QString());
-        QCOMPARE(probe.groupPath(b), QString("B"));
+        const auto keyOf = [](const QDomElement &id) { return id.text(); };
+        const auto nameOf = [](const QDomElement &id, int section) {
+            return QStringList{QString::number(section) + id.nextSibling().nodeName()};
+        };
+        // Without a base only the last character counts.
+        SectionIndex index({"Ид", true, keyOf}, 0);
+        const Probe probe("<r><Классификатор><Ид>0</Ид><a/><Ид>10</Ид><b/><Ид>0</Ид><c/>"
+                          "<Ид>20</Ид><d/></Классификатор></r>");
+        QCOMPARE(index.path(probe.groups, "0", nameOf), QString("0a"));
+        QCOMPARE(index.path(probe.groups, "10", nameOf), QString("0b"));
+        QCOMPARE(index.path(probe.groups, "20", nameOf), QString("0d"));
+        QCOMPARE(index.path(probe.groups, "30", nameOf), QString());
+        QCOMPARE(index.findIn(0, "20").nextSibling().nodeName(), QString("d"));
     }
 };
 
