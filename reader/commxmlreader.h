@@ -167,9 +167,6 @@ private:
     SectionIndex groupIndex;
     SectionIndex categoryIndex;
 
-    /// The full text of an element, in one walk: nested ids would make it many of QDomElement.
-    static QString groupIdText(const QDomElement &id);
-
     // --- What the exporters share -----------------------------------------------------------
 
     /// The one gate to the exchange file: a line of `key` and `value`, flushed.

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "reader/commxmlreader.h"
+#include "reader/text.h"
 #include "reader/vocabulary.h"
 
 using namespace commerceml;
@@ -20,31 +21,14 @@ static QStringList groupNames(const QDomElement &id, int /*section*/)
     QDomNode group = id.parentNode();
     QDomElement name = group.firstChildElement(nameElement);
     if (!name.isNull())
-        names.append(name.text());
+        names.append(textOf(name));
     for (;;) {
         group = parentGroup(group);
         name = group.firstChildElement(nameElement);
         if (name.isNull())
             return names;
-        names.append(name.text());
+        names.append(textOf(name));
     }
-}
-
-static void appendText(QString &text, const QDomNode &parent)
-{
-    for (QDomNode child = parent.firstChild(); !child.isNull(); child = child.nextSibling()) {
-        if (child.isText())
-            text += child.nodeValue();
-        else if (child.isElement())
-            appendText(text, child);
-    }
-}
-
-QString CommXmlReader::groupIdText(const QDomElement &id)
-{
-    QString text = QLatin1String("");
-    appendText(text, id);
-    return text;
 }
 
 QString CommXmlReader::groupPath(const QString &id)

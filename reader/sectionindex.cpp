@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "reader/sectionindex.h"
 
+#include "reader/childelements.h"
+#include "reader/text.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -38,12 +41,12 @@ QString SectionIndex::path(const QList<QDomNode> &sections, const QString &key,
 
 QDomElement SectionIndex::findIn(int section, const QString &key) const
 {
-    const std::pair<quint32, int> place(hashOf(key), section);
+    const std::pair<quint32, int> place(hashOf(QStringRef(&key)), section);
     const auto *entry =
         std::lower_bound(entries.cbegin(), entries.cend(), place,
                          [](const Entry &e, const auto &wanted) { return e.place() < wanted; });
     for (; entry != entries.cend() && entry->place() == place; ++entry) {
-        if (kind.keyOf(entry->element) == key)
+        if (hasKey(*entry, key))
             return entry->element;
     }
     return {};
@@ -57,43 +60,61 @@ void SectionIndex::build()
     while (enclosing.size() < indexed.size()) {
         const int section = enclosing.size();
         enclosing.append(noSection);
-        collect(indexed.at(section), section);
+        if (kind.attribute.isEmpty())
+            collectByText(indexed.at(section), section, nullptr);
+        else
+            collectByAttribute(section);
     }
-
-    std::stable_sort(entries.begin(), entries.end(),
-                     [](const Entry &a, const Entry &b) { return a.place() < b.place(); });
-    // Only the first element with a key is ever found, and there can be very many others.
-    auto *const others =
-        std::unique(entries.begin(), entries.end(), [&](const Entry &a, const Entry &b) {
-            return a.place() == b.place() && kind.keyOf(a.element) == kind.keyOf(b.element);
-        });
-    entries.erase(others, entries.end());
+    std::sort(entries.begin(), entries.end(), [](const Entry &a, const Entry &b) {
+        return std::make_pair(a.place(), a.position) < std::make_pair(b.place(), b.position);
+    });
 }
 
-void SectionIndex::collect(const QDomNode &parent, int section)
+void SectionIndex::collectByAttribute(int section)
+{
+    for (const QDomElement &element : ChildElements(indexed.at(section), kind.tag)) {
+        const QDomAttr attribute = element.attributes().namedItem(kind.attribute).toAttr();
+        if (attribute.isNull())
+            continue;
+        const QString key = attribute.value();
+        entries.append({hashOf(QStringRef(&key)), section, entries.size(), element});
+    }
+}
+
+/// `text` collects that of the elements around; null outside all that have a key.
+void SectionIndex::collectByText(const QDomNode &parent, int section, QString *text)
 {
     for (QDomNode child = parent.firstChild(); !child.isNull(); child = child.nextSibling()) {
+        if (text != nullptr && child.isText())
+            *text += child.nodeValue();
         const QDomElement element = child.toElement();
         if (element.isNull())
             continue;
-        if (element.tagName() == kind.tag) {
-            const QString key = kind.keyOf(element);
-            if (!key.isNull())
-                entries.append({hashOf(key), section, entries.size(), element});
-        }
-        if (!kind.atAnyDepth)
-            continue;
+
         // What sections share is visited once: nested in each other, they could be very many.
         const int next = enclosing.size();
         const bool isNextSection = next < indexed.size() && element == indexed.at(next);
         if (isNextSection)
             enclosing.append(section);
-        collect(element, isNextSection ? next : section);
+        const int innerSection = isNextSection ? next : section;
+
+        if (element.tagName() != kind.tag) {
+            collectByText(element, innerSection, text);
+            continue;
+        }
+        const int position = entries.size();
+        entries.append({0, section, position, element});
+        // Elements with a key can be nested, too.
+        QString ownText;
+        QString *const innerText = text == nullptr ? &ownText : text;
+        const int begin = innerText->size();
+        collectByText(element, innerSection, innerText);
+        entries[position].hash = hashOf(innerText->midRef(begin));
     }
 }
 
 /// A polynomial modulo a prime: without its base nobody can choose keys of one hash.
-quint32 SectionIndex::hashOf(const QString &key) const
+quint32 SectionIndex::hashOf(const QStringRef &key) const
 {
     constexpr quint64 prime = 0x7fffffff;
     quint64 hash = 0;
@@ -102,16 +123,24 @@ quint32 SectionIndex::hashOf(const QString &key) const
     return static_cast<quint32>(hash);
 }
 
+bool SectionIndex::hasKey(const Entry &entry, const QString &key) const
+{
+    return key == (kind.attribute.isEmpty()
+                       ? textOf(entry.element)
+                       : entry.element.attributes().namedItem(kind.attribute).nodeValue());
+}
+
 /// The first element with this key of each section that has one, in the order of the sections.
 SectionIndex::Entries SectionIndex::findFirsts(const QString &key) const
 {
-    const quint32 hash = hashOf(key);
+    const quint32 hash = hashOf(QStringRef(&key));
     const auto *entry =
         std::lower_bound(entries.cbegin(), entries.cend(), hash,
                          [](const Entry &e, quint32 wanted) { return e.hash < wanted; });
     Entries found;
     for (; entry != entries.cend() && entry->hash == hash; ++entry) {
-        if (kind.keyOf(entry->element) == key)
+        const bool sectionIsNew = found.isEmpty() || found.last().section != entry->section;
+        if (sectionIsNew && hasKey(*entry, key))
             found.append(*entry);
     }
     std::sort(found.begin(), found.end(),

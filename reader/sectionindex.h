@@ -22,11 +22,13 @@
 class SectionIndex
 {
 public:
-    /// What is found, and the key that it is found by.
+    /// What is found: elements with this tag, by one of two keys.
     struct Kind {
         QString tag;
-        bool atAnyDepth;                              ///< or only as a child of the section
-        QString (*keyOf)(const QDomElement &element); ///< null: never found
+
+        /// The key is the value of this attribute; found are children of a section that have it.
+        /// If empty, the key is the full text; found are elements at any depth below a section.
+        QString attribute;
     };
 
     /// The names along a path, from its end `element` up. `section` is the position of the section
@@ -60,8 +62,10 @@ private:
     using Entries = QVector<Entry>;
 
     void build();
-    void collect(const QDomNode &parent, int section);
-    quint32 hashOf(const QString &key) const;
+    void collectByAttribute(int section);
+    void collectByText(const QDomNode &parent, int section, QString *text);
+    quint32 hashOf(const QStringRef &key) const;
+    bool hasKey(const Entry &entry, const QString &key) const;
     Entries findFirsts(const QString &key) const;
 
     Kind kind;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "reader/commxmlreader.h"
+#include "reader/text.h"
 
 #include <set>
 
@@ -9,7 +10,7 @@ QString CommXmlReader::ymlCategoryPath(const QString &id)
         QStringList names;
         std::set<QString> walked = {id}; // parents can lead back to where the walk has been
         while (!category.isNull()) {
-            names.append(category.text());
+            names.append(textOf(category));
             const QString parent = attributeValue(category, QStringLiteral("parentId"));
             if (parent.isNull() || parent == QLatin1String("0") || !walked.insert(parent).second)
                 break;
