@@ -8,6 +8,7 @@
 #include <QXmlSimpleReader>
 
 #include <new>
+#include <set>
 
 // The toolkit would rather have everybody use its stream reader, which reads sources differently:
 // it keeps white space, and fails on an undeclared entity.
@@ -128,7 +129,11 @@ private:
         return buildText() && builder->processingInstruction(target, data);
     }
 
-    bool skippedEntity(const QString & /*name*/) override { return buildText(); }
+    bool skippedEntity(const QString &name) override
+    {
+        // A text goes on behind the reference to an external entity, and ends at an undeclared one.
+        return externalEntities.find(name) != externalEntities.end() || buildText();
+    }
 
     bool comment(const QString &comment) override
     {
@@ -158,6 +163,13 @@ private:
         entitySizes.insert(name, value.size());
         entityText += name.size() + value.size();
         return entitySizes.size() <= maximalEntities && entityText <= maximalEntityText;
+    }
+
+    bool externalEntityDecl(const QString &name, const QString & /*publicId*/,
+                            const QString & /*systemId*/) override
+    {
+        externalEntities.insert(name);
+        return true;
     }
 
     bool startEntity(const QString &name) override
@@ -197,6 +209,7 @@ private:
     bool inCData = false;
     QString text;
     QMap<QString, int> entitySizes;
+    std::set<QString> externalEntities;
     int entityText = 0;
     qint64 expansion = 0;
 };
