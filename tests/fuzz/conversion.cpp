@@ -3,11 +3,9 @@
 // Whole conversions of arbitrary bytes, for libFuzzer. Beside what the sanitizers find, it ends the
 // run where the tree is not the one of the toolkit, or where two runs give different rows.
 #include "../unit/probe.h"
-#include "job/idledispatcher.h"
 #include "reader/sourceparser.h"
 
 #include <QBuffer>
-#include <QCoreApplication>
 
 namespace
 {
@@ -49,13 +47,6 @@ public:
 };
 
 } // namespace
-
-extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
-{
-    QCoreApplication::setEventDispatcher(new IdleDispatcher);
-    static const QCoreApplication application(*argc, *argv);
-    return 0;
-}
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size)
 {
