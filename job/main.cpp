@@ -63,7 +63,7 @@ JobOptions readOptions(const QList<QByteArray> &arguments)
     return options;
 }
 
-/// Writes the exchange file. False if there are no documents, or none are exported.
+/// Writes the exchange file. False if not all documents are in it, or there are none.
 bool exportTo(const QString &path, CommXmlReader &reader, int documentType)
 {
     try {

@@ -17,8 +17,8 @@ QT_WARNING_DISABLE_DEPRECATED
 namespace
 {
 
-/// Levels of elements. Each takes stack while the source is parsed, walked and freed, and a text is
-/// copied once for each. Real sources stay under 50.
+/// Levels of elements. Each takes stack while the source is parsed, walked and freed, and can read
+/// all texts below it once more. Real sources stay under 50.
 constexpr int maximalNesting = 128;
 
 /// Attributes of one element, which are sought by hashes that a source can be made to collide. Real
