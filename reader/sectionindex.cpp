@@ -9,16 +9,8 @@
 
 static constexpr int noSection = -1;
 
-static QString joined(QStringList namesFromTheEnd)
-{
-    while (!namesFromTheEnd.isEmpty() && namesFromTheEnd.first().isEmpty())
-        namesFromTheEnd.removeFirst();
-    std::reverse(namesFromTheEnd.begin(), namesFromTheEnd.end());
-    return namesFromTheEnd.join(QLatin1String(" \\ "));
-}
-
 QString SectionIndex::path(const QList<QDomNode> &sections, const QString &key,
-                           const NamesOf &namesOf)
+                           const StepOf &stepOf)
 {
     // Lists that nobody has changed share their data, and compare at once.
     if (sections != indexed) {
@@ -31,7 +23,10 @@ QString SectionIndex::path(const QList<QDomNode> &sections, const QString &key,
 
     QString path;
     for (const Entry &entry : findFirsts(key)) {
-        path = joined(namesOf(entry.element, entry.section));
+        const QDomNode found =
+            kind.attribute.isEmpty() ? entry.element.parentNode() : QDomNode(entry.element);
+        path = ancestors.path(found,
+                              [&](const QDomNode &node) { return stepOf(node, entry.section); });
         if (!path.isEmpty())
             break;
     }
@@ -55,6 +50,7 @@ QDomElement SectionIndex::findIn(int section, const QString &key) const
 void SectionIndex::build()
 {
     paths.clear();
+    ancestors.clear();
     entries.clear();
     enclosing.clear();
     while (enclosing.size() < indexed.size()) {

@@ -101,18 +101,18 @@ private slots:
 
     void keysOfOneHash()
     {
-        const auto nameOf = [](const QDomElement &id, int section) {
-            return QStringList{QString::number(section) + id.nextSibling().nodeName()};
+        const auto name = [](const QDomNode &parent, int section) {
+            return AncestorPaths::Step{QString::number(section) + parent.nodeName(), {}};
         };
         // Without a base only the last character counts.
         SectionIndex index({"Ид", {}}, 0);
-        const Probe probe("<r><Классификатор><Ид>0</Ид><a/><Ид>10</Ид><b/><Ид>0</Ид><c/>"
-                          "<Ид>20</Ид><d/></Классификатор></r>");
-        QCOMPARE(index.path(probe.groups, "0", nameOf), QString("0a"));
-        QCOMPARE(index.path(probe.groups, "10", nameOf), QString("0b"));
-        QCOMPARE(index.path(probe.groups, "20", nameOf), QString("0d"));
-        QCOMPARE(index.path(probe.groups, "30", nameOf), QString());
-        QCOMPARE(index.findIn(0, "20").nextSibling().nodeName(), QString("d"));
+        const Probe probe("<r><Классификатор><a><Ид>0</Ид></a><b><Ид>10</Ид></b>"
+                          "<c><Ид>0</Ид></c><d><Ид>20</Ид></d></Классификатор></r>");
+        QCOMPARE(index.path(probe.groups, "0", name), QString("0a"));
+        QCOMPARE(index.path(probe.groups, "10", name), QString("0b"));
+        QCOMPARE(index.path(probe.groups, "20", name), QString("0d"));
+        QCOMPARE(index.path(probe.groups, "30", name), QString());
+        QCOMPARE(index.findIn(0, "20").parentNode().nodeName(), QString("d"));
     }
 };
 
