@@ -1,13 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "reader/commxmlreader.h"
 
+#include <new>
+
 using namespace exchange;
 
 void CommXmlReader::writeLine(QLatin1String key, const QString &value)
 {
     // Flushed each time: a file must be readable up to its last line whatever ends the run.
-    if (outputEnabled)
+    if (!outputEnabled)
+        return;
+    try {
         outputStream << key << value << Qt::endl;
+    } catch (const std::bad_alloc &) {
+        outputStream.setStatus(QTextStream::WriteFailed); // keeps the rest of the line back
+        throw;
+    }
 }
 
 void CommXmlReader::writeFields(const FieldValues &values)

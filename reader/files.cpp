@@ -72,8 +72,8 @@ bool CommXmlReader::openOutput()
 
 void CommXmlReader::closeOutput()
 {
-    outputFile.close();
     goodsRows.clear();
+    outputFile.close();
     outputFileName = QString();
     outputEnabled = false;
 }

@@ -7,6 +7,7 @@
 #include <QXmlInputSource>
 #include <QXmlSimpleReader>
 
+#include <memory>
 #include <new>
 #include <set>
 
@@ -21,23 +22,23 @@ namespace
 /// all texts below it once more. Real sources stay under 50.
 constexpr int maximalNesting = 128;
 
-/// Attributes of one element, which are sought by hashes that a source can be made to collide. Real
+/// Attributes of one element. The tree finds them by hashes that names can be chosen to share. Real
 /// sources stay under 20.
 constexpr int maximalAttributes = 256;
 
 /// Opening brackets ahead of the root element. Each can be a level of a content model in the DTD,
 /// which takes stack.
-constexpr int maximalBrackets = 10'000;
+constexpr int maximalBrackets = 1'000;
 
-/// Entities that a source declares itself, and the characters of their names and values. The
-/// parser compares each of them with every other. All those of HTML are 2,231.
-constexpr int maximalEntities = 2'500;
+/// Entities that a source declares with a value, and the characters of their names and values. At
+/// each the parser looks for all others in it, by such hashes again. Those of XHTML are 253.
+constexpr int maximalEntities = 300;
 constexpr int maximalEntityText = 100'000;
 
 /// Characters that entities may add to those of the source itself, which they may double as well.
 constexpr qint64 maximalExpansion = 1'000'000;
 
-/// Names that elements share: more than any vocabulary has.
+/// Names that elements share, found by such hashes: more than any vocabulary has.
 constexpr int maximalSharedNames = 500;
 
 /// Counts what the parser reads.
@@ -52,7 +53,7 @@ public:
         if (inProlog)
             brackets += data().count(QLatin1Char('('));
         if (brackets > maximalBrackets)
-            setData(QString()); // the end of the source, so not well-formed
+            endHere();
         characters += data().size();
     }
 
@@ -60,6 +61,9 @@ public:
     bool inProlog = true;
 
 private:
+    /// To the parser this is the end of the source, which is not well-formed then.
+    void endHere() { setData(QString()); }
+
     int brackets = 0;
 };
 
@@ -90,10 +94,14 @@ public:
         QXmlSimpleReader::setLexicalHandler(this);
     }
 
+    // Nobody reads what a DTD declares, and the document would hold it by such hashes.
+
     void setDeclHandler(QXmlDeclHandler * /*handler*/) override
     {
         QXmlSimpleReader::setDeclHandler(this);
     }
+
+    void setDTDHandler(QXmlDTDHandler * /*handler*/) override {}
 
 private:
     bool startElement(const QString &namespaceUri, const QString &localName, const QString &name,
@@ -218,13 +226,14 @@ private:
 
 bool parseSource(QIODevice &device, QDomDocument &document)
 {
+    Source source(&device);
+    auto reader = std::make_unique<GuardedReader>(source);
     try {
-        Source source(&device);
-        GuardedReader reader(source);
-        if (document.setContent(&source, &reader))
+        if (document.setContent(&source, reader.get()))
             return true;
     } catch (const std::bad_alloc &) {
-        // Freed below, as any tree that is not whole.
+        // The parser of the toolkit does not survive this in a state to be destroyed in.
+        static_cast<void>(reader.release());
     }
     document.clear();
     return false;
