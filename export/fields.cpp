@@ -2,6 +2,7 @@
 #include "export/fields.h"
 
 #include "reader/commxmlreader.h"
+#include "reader/text.h"
 
 exchange::FieldValues readFields(CommXmlReader &reader, const ChildLookup &item,
                                  const FieldTable &table)
@@ -22,12 +23,12 @@ exchange::FieldValues readFields(CommXmlReader &reader, const ChildLookup &item,
 
 std::optional<QString> fullText(CommXmlReader &, const QDomElement &element)
 {
-    return element.text();
+    return textOf(element);
 }
 
 std::optional<QString> filledText(CommXmlReader &, const QDomElement &element)
 {
-    return unlessEmpty(element.text());
+    return unlessEmpty(textOf(element));
 }
 
 std::optional<QString> ownText(CommXmlReader &, const QDomElement &element)

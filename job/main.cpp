@@ -8,6 +8,8 @@
 #include <QLoggingCategory>
 #include <QTextCodec>
 
+#include <new>
+
 namespace
 {
 
@@ -61,6 +63,31 @@ JobOptions readOptions(const QList<QByteArray> &arguments)
     return options;
 }
 
+/// Writes the exchange file. False if not all documents are in it, or there are none.
+bool exportTo(const QString &path, CommXmlReader &reader, int documentType)
+{
+    try {
+        reader.readStructure();
+        reader.outputFileName = path;
+        reader.outputEnabled = true;
+        reader.openOutput();
+
+        const bool prefixRows = false;
+        const bool withDescription = true;
+        const bool markHtml = true;
+        const bool extendedOffers = true;
+        const bool applyFactor = false;
+        const bool withGoods = true;
+        reader.exportKatalogs(prefixRows, withDescription, markHtml);
+        reader.exportPrices(prefixRows, withDescription, markHtml, extendedOffers, applyFactor,
+                            1.0);
+        return reader.exportDocs(withGoods, documentType);
+    } catch (const std::bad_alloc &) {
+        reader.closeOutput(); // which makes room for the message; the lines so far stay
+        return false;
+    }
+}
+
 ExitCode convert(const JobOptions &options)
 {
     const auto pauseAtEnd = [&] {
@@ -74,20 +101,7 @@ ExitCode convert(const JobOptions &options)
         pauseAtEnd();
         return SourceNotRead;
     }
-    reader.readStructure();
-    reader.outputFileName = options.destinationPath;
-    reader.outputEnabled = true;
-    reader.openOutput();
-
-    const bool prefixRows = false;
-    const bool withDescription = true;
-    const bool markHtml = true;
-    const bool extendedOffers = true;
-    const bool applyFactor = false;
-    const bool withGoods = true;
-    reader.exportKatalogs(prefixRows, withDescription, markHtml);
-    reader.exportPrices(prefixRows, withDescription, markHtml, extendedOffers, applyFactor, 1.0);
-    if (!reader.exportDocs(withGoods, options.saleFlag)) {
+    if (!exportTo(options.destinationPath, reader, options.saleFlag)) {
         printMessage(QObject::tr("Error getting documents..."), false);
         pauseAtEnd();
         reader.closeOutput();

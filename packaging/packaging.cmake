@@ -1,7 +1,7 @@
 # What `cmake --install` copies, and what cpack makes of it: a zip for Windows, a Debian package
 # elsewhere. scripts/package calls cpack. What only one of the two takes is in a component of its own.
 install(TARGETS xml2ryk)
-install(FILES README.md README.ru.md TYPE DOC)
+install(FILES README.md README.ru.md SECURITY.md TYPE DOC)
 install(FILES CHANGELOG.md LICENSE TYPE DOC COMPONENT plain)
 install(DIRECTORY docs TYPE DOC PATTERN xml2ryk.1.md EXCLUDE)
 install(DIRECTORY examples TYPE DOC)

@@ -27,9 +27,10 @@ using PictureLink = QPair<QString, QString>;
 
 /// One source document and the exchange file that is made of it.
 ///
-/// The exporters write lines only while outputEnabled is true, and build goodsRows either way. No
-/// operation throws. An exporter never fails on data: a missing element only leaves out its line.
-/// All lookups of children take the first direct child of exactly the name; texts are not trimmed.
+/// The exporters write lines only while outputEnabled is true, and build goodsRows either way. An
+/// exporter never fails on data: a missing element only leaves out its line. No operation throws,
+/// unless memory runs out behind loadSource(). All lookups of children take the first direct child
+/// of exactly the name; texts are not trimmed.
 class CommXmlReader
 {
 public:

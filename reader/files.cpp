@@ -7,10 +7,8 @@
 #include <QCoreApplication>
 
 CommXmlReader::CommXmlReader()
-    : groupIndex({commerceml::idElement, true, [](const QDomElement &id) { return id.text(); }}),
-      categoryIndex({QStringLiteral("category"), false, [](const QDomElement &category) {
-                         return attributeValue(category, QStringLiteral("id"));
-                     }})
+    : groupIndex({commerceml::idElement, {}}),
+      categoryIndex({QStringLiteral("category"), QStringLiteral("id")})
 {
 }
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "reader/commxmlreader.h"
+#include "reader/text.h"
 
 QString CommXmlReader::directText(const QDomNode &node)
 {
@@ -23,7 +24,7 @@ QDomNode CommXmlReader::findElementByText(const QDomNode &parent, const QString 
 {
     for (QDomNode child = parent.firstChild(); !child.isNull(); child = child.nextSibling()) {
         const QDomElement element = child.toElement();
-        if (!element.isNull() && element.tagName() == tag && element.text() == text)
+        if (!element.isNull() && element.tagName() == tag && textOf(element) == text)
             return child;
         const QDomNode found = findElementByText(child, tag, text);
         if (!found.isNull())

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "reader/commxmlreader.h"
+#include "reader/text.h"
 #include "reader/vocabulary.h"
 
 using namespace commerceml;
@@ -13,25 +14,14 @@ static QDomNode parentGroup(const QDomNode &group)
                                                                                  : QDomNode();
 }
 
-/// The names of a group and of those above it. A group above without a name ends them.
-static QStringList groupNames(const QDomElement &id, int /*section*/)
+static AncestorPaths::Step groupStep(const QDomNode &group, int /*section*/)
 {
-    QStringList names;
-    QDomNode group = id.parentNode();
-    QDomElement name = group.firstChildElement(nameElement);
-    if (!name.isNull())
-        names.append(name.text());
-    for (;;) {
-        group = parentGroup(group);
-        name = group.firstChildElement(nameElement);
-        if (name.isNull())
-            return names;
-        names.append(name.text());
-    }
+    const QDomElement name = group.firstChildElement(nameElement);
+    return {name.isNull() ? std::nullopt : std::optional(textOf(name)), parentGroup(group)};
 }
 
 QString CommXmlReader::groupPath(const QString &id)
 {
-    pathBuffer = groupIndex.path(groups, id, groupNames);
+    pathBuffer = groupIndex.path(groups, id, groupStep);
     return pathBuffer;
 }

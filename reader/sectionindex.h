@@ -1,60 +1,75 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "reader/ancestorpaths.h"
+
 #include <QDomElement>
-#include <QHash>
 #include <QList>
+#include <QMap>
+#include <QRandomGenerator>
 #include <QString>
-#include <QStringList>
 #include <QVector>
 
 #include <functional>
 #include <utility>
 
-/// Answers for a path by the key of the element that it ends in, as a search through one section
-/// after the other would, but looks at the sections only once, and again when they are others than
-/// the last time.
+/// Answers for a path by a key that ends it, as a search through one section after the other
+/// would, but looks at the sections only once, and again when they are others than the last time.
 ///
 /// Holds hashes of the keys and not the keys, which elements within elements could make many times
-/// larger than the source; and of the paths only those that were asked for, since all that there
-/// could be are far larger than the source, too.
+/// larger than the source.
 class SectionIndex
 {
 public:
-    /// What is found, and the key that it is found by.
+    /// What has a key.
     struct Kind {
-        QString tag;
-        bool atAnyDepth;                              ///< or only as a child of the section
-        QString (*keyOf)(const QDomElement &element); ///< null: never found
+        QString tag; ///< of the elements that tell the keys
+
+        /// The key is the value of this attribute of a child of a section, and leads to that child.
+        /// If empty, the key is the full text of an element at any depth, and leads to its parent.
+        QString attribute;
     };
 
-    /// The names along a path, from its end `element` up. `section` is the position of the section
-    /// that the element was found in.
-    using NamesOf = std::function<QStringList(const QDomElement &element, int section)>;
+    /// The step of a path at a node that was found in this section.
+    using StepOf = std::function<AncestorPaths::Step(const QDomNode &node, int section)>;
 
-    explicit SectionIndex(Kind kind) : kind(std::move(kind)) {}
+    /// `hashBase` is for tests: a source must not know it.
+    explicit SectionIndex(Kind kind, quint32 hashBase = QRandomGenerator::system()->generate())
+        : kind(std::move(kind)), hashBase(hashBase)
+    {
+    }
 
-    /// The path to the first element with this key, names from the top down, joined by " \ ";
-    /// names at its end that are empty are left out. That of the first section that gives one which
-    /// is not empty; empty if none does.
-    QString path(const QList<QDomNode> &sections, const QString &key, const NamesOf &namesOf);
+    /// The path that the first of these sections gives, in which something has this key and a path
+    /// that is not empty. Empty if none does.
+    QString path(const QList<QDomNode> &sections, const QString &key, const StepOf &stepOf);
 
-    /// The first element with this key in one section of the latest path(); null if there is none.
+    /// The first element with this key in one section of the latest path(), the sections nested in
+    /// it left out; null if there is none.
     QDomElement findIn(int section, const QString &key) const;
 
 private:
     struct Entry {
-        uint hash;
-        int section;
+        quint32 hash;
+        int section; // the innermost one around it
+        int position;
         QDomElement element;
+
+        std::pair<quint32, int> place() const { return {hash, section}; }
     };
+    using Entries = QVector<Entry>;
 
     void build();
-    void collect(const QDomNode &parent, int section);
-    QVector<Entry> find(const QString &key) const;
+    void collectByAttribute(int section);
+    void collectByText(const QDomNode &parent, int section, QString *text);
+    quint32 hashOf(const QStringRef &key) const;
+    bool hasKey(const Entry &entry, const QString &key) const;
+    Entries findFirsts(const QString &key) const;
 
     Kind kind;
+    quint32 hashBase;
     QList<QDomNode> indexed;
-    QHash<QString, QString> paths;
-    QVector<Entry> entries; // by hash, then by section, then in document order
+    QVector<int> enclosing; // the section around each section
+    Entries entries;        // by hash, then by section, then by position in the source
+    AncestorPaths ancestors;
+    QMap<QString, QString> paths; // those asked for
 };

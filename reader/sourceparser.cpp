@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "reader/sourceparser.h"
 
+#include <QMap>
 #include <QSet>
 #include <QXmlDefaultHandler>
 #include <QXmlInputSource>
 #include <QXmlSimpleReader>
+
+#include <new>
+#include <set>
 
 // The toolkit would rather have everybody use its stream reader, which reads sources differently:
 // it keeps white space, and fails on an undeclared entity.
@@ -13,68 +17,215 @@ QT_WARNING_DISABLE_DEPRECATED
 namespace
 {
 
-/// Stands between the parser and the builder of the tree.
-class BuilderGuard : public QXmlDefaultHandler
+/// Levels of elements. Each takes stack while the source is parsed, walked and freed, and can read
+/// all texts below it once more. Real sources stay under 50.
+constexpr int maximalNesting = 128;
+
+/// Attributes of one element, which are sought by hashes that a source can be made to collide. Real
+/// sources stay under 20.
+constexpr int maximalAttributes = 256;
+
+/// Opening brackets ahead of the root element. Each can be a level of a content model in the DTD,
+/// which takes stack.
+constexpr int maximalBrackets = 10'000;
+
+/// Entities that a source declares itself, and the characters of their names and values. The
+/// parser compares each of them with every other. All those of HTML are 2,231.
+constexpr int maximalEntities = 2'500;
+constexpr int maximalEntityText = 100'000;
+
+/// Characters that entities may add to those of the source itself, which they may double as well.
+constexpr qint64 maximalExpansion = 1'000'000;
+
+/// Names that elements share: more than any vocabulary has.
+constexpr int maximalSharedNames = 500;
+
+/// Counts what the parser reads.
+class Source : public QXmlInputSource
 {
 public:
-    void setBuilder(QXmlContentHandler *handler) { builder = handler; }
+    using QXmlInputSource::QXmlInputSource;
 
+    void fetchData() override
+    {
+        QXmlInputSource::fetchData();
+        if (inProlog)
+            brackets += data().count(QLatin1Char('('));
+        if (brackets > maximalBrackets)
+            setData(QString()); // the end of the source, so not well-formed
+        characters += data().size();
+    }
+
+    qint64 characters = 0;
+    bool inProlog = true;
+
+private:
+    int brackets = 0;
+};
+
+/// A parser that looks at everything before the builder of the tree gets it. Where a handler
+/// returns false, parsing ends as at an error.
+class GuardedReader : public QXmlSimpleReader, private QXmlDefaultHandler
+{
+public:
+    explicit GuardedReader(Source &source) : source(source)
+    {
+        // As QDomDocument sets up a reader of its own.
+        setFeature(QStringLiteral("http://xml.org/sax/features/namespaces"), false);
+        setFeature(QStringLiteral("http://xml.org/sax/features/namespace-prefixes"), true);
+        reportEntities(false);
+    }
+
+    // The document comes with its builder.
+
+    void setContentHandler(QXmlContentHandler *handler) override
+    {
+        builder = handler;
+        QXmlSimpleReader::setContentHandler(this);
+    }
+
+    void setLexicalHandler(QXmlLexicalHandler *handler) override
+    {
+        lexicalBuilder = handler;
+        QXmlSimpleReader::setLexicalHandler(this);
+    }
+
+    void setDeclHandler(QXmlDeclHandler * /*handler*/) override
+    {
+        QXmlSimpleReader::setDeclHandler(this);
+    }
+
+private:
     bool startElement(const QString &namespaceUri, const QString &localName, const QString &name,
                       const QXmlAttributes &attributes) override
     {
-        // Elements share one copy of their name: a sixth of the memory of a tree.
-        return builder->startElement(namespaceUri, localName, *names.insert(name), attributes);
+        source.inProlog = false;
+        if (!buildText() || ++nesting > maximalNesting || attributes.count() > maximalAttributes)
+            return false;
+        // One copy of each name takes a tenth off the memory of a tree.
+        const auto sharedName =
+            names.size() < maximalSharedNames ? names.insert(name) : names.find(name);
+        return builder->startElement(namespaceUri, localName,
+                                     sharedName != names.end() ? *sharedName : name, attributes);
     }
 
     bool endElement(const QString &namespaceUri, const QString &localName,
                     const QString &name) override
     {
-        return builder->endElement(namespaceUri, localName, name);
+        --nesting;
+        return buildText() && builder->endElement(namespaceUri, localName, name);
     }
 
-    bool characters(const QString &text) override { return builder->characters(text); }
+    bool characters(const QString &characters) override
+    {
+        if (!entitiesReported || inCData)
+            return builder->characters(characters);
+        text += characters;
+        return true;
+    }
 
     bool processingInstruction(const QString &target, const QString &data) override
     {
-        return builder->processingInstruction(target, data);
+        return buildText() && builder->processingInstruction(target, data);
+    }
+
+    bool skippedEntity(const QString &name) override
+    {
+        // A text goes on behind the reference to an external entity, and ends at an undeclared one.
+        return externalEntities.find(name) != externalEntities.end() || buildText();
+    }
+
+    bool comment(const QString &comment) override
+    {
+        return buildText() && lexicalBuilder->comment(comment);
+    }
+
+    bool startCDATA() override
+    {
+        inCData = true;
+        return buildText() && lexicalBuilder->startCDATA();
+    }
+
+    bool endCDATA() override
+    {
+        inCData = false;
+        return lexicalBuilder->endCDATA();
     }
 
     bool endDocument() override { return builder->endDocument(); }
 
-private:
-    QXmlContentHandler *builder = nullptr;
-    QSet<QString> names;
-};
-
-class GuardedReader : public QXmlSimpleReader
-{
-public:
-    GuardedReader()
+    bool internalEntityDecl(const QString &name, const QString &value) override
     {
-        // As QDomDocument sets up a reader of its own.
-        setFeature(QStringLiteral("http://xml.org/sax/features/namespaces"), false);
-        setFeature(QStringLiteral("http://xml.org/sax/features/namespace-prefixes"), true);
+        // Those of the DTD itself could build up content models, and no trade data has them.
+        if (name.startsWith(QLatin1Char('%')))
+            return false;
+        reportEntities(true);
+        entitySizes.insert(name, value.size());
+        entityText += name.size() + value.size();
+        return entitySizes.size() <= maximalEntities && entityText <= maximalEntityText;
+    }
+
+    bool externalEntityDecl(const QString &name, const QString & /*publicId*/,
+                            const QString & /*systemId*/) override
+    {
+        externalEntities.insert(name);
+        return true;
+    }
+
+    bool startEntity(const QString &name) override
+    {
+        expansion += entitySizes.value(name);
+        return expansion <= source.characters + maximalExpansion;
+    }
+
+    /// With reports, texts come in pieces, the white ones too: buildText() joins them again.
+    /// Sources without entities of their own do without.
+    void reportEntities(bool enable)
+    {
+        entitiesReported = enable;
+        setFeature(QStringLiteral("http://trolltech.com/xml/features/report-start-end-entity"),
+                   enable);
         setFeature(
             QStringLiteral("http://trolltech.com/xml/features/report-whitespace-only-CharData"),
-            false);
+            enable);
     }
 
-    // The document comes with its builder.
-    void setContentHandler(QXmlContentHandler *handler) override
+    bool buildText()
     {
-        guard.setBuilder(handler);
-        QXmlSimpleReader::setContentHandler(&guard);
+        if (text.isEmpty())
+            return true;
+        const bool built = text.simplified().isEmpty() || builder->characters(text);
+        text.clear();
+        return built;
     }
 
-private:
-    BuilderGuard guard;
+    Source &source;
+    QXmlContentHandler *builder = nullptr;
+    QXmlLexicalHandler *lexicalBuilder = nullptr;
+    QSet<QString> names;
+    int nesting = 0;
+
+    bool entitiesReported = false;
+    bool inCData = false;
+    QString text;
+    QMap<QString, int> entitySizes;
+    std::set<QString> externalEntities;
+    int entityText = 0;
+    qint64 expansion = 0;
 };
 
 } // namespace
 
 bool parseSource(QIODevice &device, QDomDocument &document)
 {
-    QXmlInputSource source(&device);
-    GuardedReader reader;
-    return document.setContent(&source, &reader);
+    try {
+        Source source(&device);
+        GuardedReader reader(source);
+        if (document.setContent(&source, &reader))
+            return true;
+    } catch (const std::bad_alloc &) {
+        // Freed below, as any tree that is not whole.
+    }
+    document.clear();
+    return false;
 }

@@ -5,7 +5,10 @@
 #include <QIODevice>
 
 /// Parses the XML of `device`, open for reading, into `document`, in the encoding that the XML
-/// declares. The document is the one that QDomDocument::setContent() makes, except that a reference
-/// to an undeclared entity leaves no node. False if the source is not well-formed; `document` then
-/// has no defined content.
+/// declares. The document is the one that QDomDocument::setContent() makes, but without the nodes
+/// that stand for entities.
+///
+/// False if the source is not well-formed, goes beyond the limits in sourceparser.cpp that keep it
+/// from exhausting the stack, the memory or the time, or if memory runs out all the same;
+/// `document` is empty then.
 bool parseSource(QIODevice &device, QDomDocument &document);

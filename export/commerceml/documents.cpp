@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "reader/commxmlreader.h"
+#include "reader/text.h"
 #include "reader/vocabulary.h"
 
 #include <algorithm>
@@ -32,7 +33,7 @@ QDomElement choosePartner(const QDomNode &doc, int documentType)
     const auto *wanted =
         std::find_if(std::begin(partnerRoles), std::end(partnerRoles),
                      [=](const PartnerRole &r) { return r.documentType == documentType; });
-    if (wanted == std::end(partnerRoles) || role.isNull() || role.text() == wanted->role)
+    if (wanted == std::end(partnerRoles) || role.isNull() || textOf(role) == wanted->role)
         return first;
     return first.nextSiblingElement(partnerElement);
 }

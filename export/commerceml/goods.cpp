@@ -2,6 +2,7 @@
 #include "export/commerceml/goods.h"
 
 #include "reader/commxmlreader.h"
+#include "reader/text.h"
 #include "reader/vocabulary.h"
 
 using namespace commerceml;
@@ -12,7 +13,7 @@ static std::optional<QString> pathOfFirstGroup(CommXmlReader &reader,
                                                const QDomElement &goodsGroups)
 {
     const QDomElement id = goodsGroups.firstChildElement(idElement);
-    return id.isNull() ? std::nullopt : unlessEmpty(reader.groupPath(id.text()));
+    return id.isNull() ? std::nullopt : unlessEmpty(reader.groupPath(textOf(id)));
 }
 
 static const QString articleElement = QStringLiteral("Артикул");
@@ -56,5 +57,5 @@ const FieldTable &orderGoodsFields()
 
 QString goodsDescription(const ChildLookup &goods)
 {
-    return goods.first(QStringLiteral("Описание")).text();
+    return textOf(goods.first(QStringLiteral("Описание")));
 }

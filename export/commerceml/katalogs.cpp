@@ -2,6 +2,7 @@
 #include "export/commerceml/goods.h"
 #include "reader/childelements.h"
 #include "reader/commxmlreader.h"
+#include "reader/text.h"
 #include "reader/vocabulary.h"
 
 using namespace commerceml;
@@ -17,7 +18,7 @@ bool CommXmlReader::exportKatalogs(bool prefixRows, bool withDescription, bool m
             const QDomElement id = goods.first(idElement);
             if (id.isNull())
                 continue;
-            exportGoods(id.text(), readFields(*this, goods, catalogueGoodsFields()),
+            exportGoods(textOf(id), readFields(*this, goods, catalogueGoodsFields()),
                         withDescription ? goodsDescription(goods) : QString(), options);
         }
     }

@@ -2,6 +2,7 @@
 #include "export/fields.h"
 #include "reader/childelements.h"
 #include "reader/commxmlreader.h"
+#include "reader/text.h"
 #include "reader/vocabulary.h"
 
 using namespace commerceml;
@@ -27,15 +28,15 @@ const QString statusRequisite = QStringLiteral("Статус заказа");
 void CommXmlReader::exportOrderHead(const QDomNode &doc, int documentType)
 {
     writeLine(orderBlock.begin);
-    writeLine("number:"_l1, doc.firstChildElement(numberElement).text());
+    writeLine("number:"_l1, textOf(doc.firstChildElement(numberElement)));
     writeLine("type:"_l1, QString::number(documentType));
     writeFields(readFields(*this, ChildLookup(doc), orderFields));
 
     QString requisitesText;
     const QDomElement list = doc.firstChildElement(QStringLiteral("ЗначенияРеквизитов"));
     for (const QDomElement &requisite : ChildElements(list, QStringLiteral("ЗначениеРеквизита"))) {
-        const QString name = requisite.firstChildElement(nameElement).text();
-        const QString value = requisite.firstChildElement(valueElement).text();
+        const QString name = textOf(requisite.firstChildElement(nameElement));
+        const QString value = textOf(requisite.firstChildElement(valueElement));
         if (name.isEmpty() || value.isEmpty())
             continue;
         if (name == statusRequisite)

@@ -2,6 +2,7 @@
 #include "export/commerceml/goods.h"
 #include "reader/childelements.h"
 #include "reader/commxmlreader.h"
+#include "reader/text.h"
 #include "reader/vocabulary.h"
 
 using namespace commerceml;
@@ -35,7 +36,7 @@ bool CommXmlReader::exportOrderLines(const QDomNode &doc, bool withGoods)
             const QDomElement id = line.first(idElement);
             if (id.isNull())
                 continue;
-            writeGoods(id.text(), readFields(*this, line, orderGoodsFields()));
+            writeGoods(textOf(id), readFields(*this, line, orderGoodsFields()));
         }
         writeLine(itemBlock.begin);
         writeFields(readFields(*this, line, itemFields));
@@ -58,7 +59,7 @@ bool CommXmlReader::collectDocumentRows(bool withGoods)
             const QDomElement id = line.first(idElement);
             if (id.isNull())
                 continue;
-            code = id.text();
+            code = textOf(id);
             const FieldValues values = readFields(*this, line, orderGoodsFields());
             goodsRows.append(goodsRow(code, prefixed, values));
         }
@@ -66,8 +67,8 @@ bool CommXmlReader::collectDocumentRows(bool withGoods)
         QString row = code + QLatin1Char('\t');
         const QDomElement quantity = line.first(quantityElement);
         if (!quantity.isNull())
-            row += quantity.text() + QLatin1Char('\t');
-        goodsRows.append(row + line.first(unitPriceElement).text());
+            row += textOf(quantity) + QLatin1Char('\t');
+        goodsRows.append(row + textOf(line.first(unitPriceElement)));
     }
     return true;
 }

@@ -2,6 +2,7 @@
 #include "export/fields.h"
 #include "reader/childelements.h"
 #include "reader/commxmlreader.h"
+#include "reader/text.h"
 #include "reader/vocabulary.h"
 
 #include <algorithm>
@@ -17,7 +18,7 @@ namespace
 std::optional<QString> presentation(CommXmlReader &, const QDomElement &address)
 {
     const QDomElement text = address.firstChildElement(QStringLiteral("Представление"));
-    return text.isNull() ? std::nullopt : std::optional(text.text());
+    return text.isNull() ? std::nullopt : std::optional(textOf(text));
 }
 
 const FieldTable partnerFields = {
@@ -59,11 +60,11 @@ FieldValues readContacts(const QDomElement &partner)
         const QDomElement value = contact.firstChildElement(valueElement);
         if (value.isNull())
             continue;
-        const QString type = contact.firstChildElement(QStringLiteral("Тип")).text();
+        const QString type = textOf(contact.firstChildElement(QStringLiteral("Тип")));
         if (type == mailType) {
-            values.append({{{}, "email:"_l1}, {}, value.text()});
+            values.append({{{}, "email:"_l1}, {}, textOf(value)});
         } else if (std::count(std::begin(phoneTypes), std::end(phoneTypes), type) > 0) {
-            values.append({{{}, *phoneKey}, {}, value.text()});
+            values.append({{{}, *phoneKey}, {}, textOf(value)});
             if (phoneKey != std::end(phoneKeys) - 1)
                 ++phoneKey;
         }

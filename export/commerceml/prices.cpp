@@ -2,6 +2,7 @@
 #include "export/commerceml/goods.h"
 #include "reader/childelements.h"
 #include "reader/commxmlreader.h"
+#include "reader/text.h"
 #include "reader/vocabulary.h"
 
 #include <algorithm>
@@ -42,7 +43,7 @@ FieldValues readPrices(const ChildLookup &offer, std::optional<double> factor)
             break;
         const QDomElement unitPrice = price.firstChildElement(unitPriceElement);
         if (!unitPrice.isNull()) {
-            const QString text = unitPrice.text();
+            const QString text = textOf(unitPrice);
             values.append({{*rowCode, {}}, priceText(text, factor), {}});
             numbers.append(text.toDouble() * factor.value_or(1.0));
         }
@@ -78,7 +79,7 @@ bool CommXmlReader::exportPrices(bool prefixRows, bool withDescription, bool mar
             const QDomElement id = offer.first(idElement);
             if (id.isNull())
                 continue;
-            exportGoods(id.text(),
+            exportGoods(textOf(id),
                         readFields(*this, offer, offerFields()) + readPrices(offer, factor),
                         withDescription ? goodsDescription(offer) : QString(), options);
         }

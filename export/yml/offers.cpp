@@ -3,6 +3,7 @@
 #include "export/yml/displayname.h"
 #include "reader/childelements.h"
 #include "reader/commxmlreader.h"
+#include "reader/text.h"
 
 using namespace exchange;
 
@@ -11,19 +12,19 @@ namespace
 
 std::optional<QString> categoryPath(CommXmlReader &reader, const QDomElement &categoryId)
 {
-    return unlessEmpty(reader.ymlCategoryPath(categoryId.text()));
+    return unlessEmpty(reader.ymlCategoryPath(textOf(categoryId)));
 }
 
 std::optional<QString> shownName(CommXmlReader &, const QDomElement &name)
 {
-    return displayName(name.text());
+    return displayName(textOf(name));
 }
 
 /// The fields of an "offer". Prices are multiplied by `factor`, if there is one.
 FieldTable offerFields(bool extended, std::optional<double> factor)
 {
     const Reading price = [factor](CommXmlReader &, const QDomElement &element) {
-        return withoutTabs(priceText(element.text(), factor));
+        return withoutTabs(priceText(textOf(element), factor));
     };
     const QString name = QStringLiteral("name");
     const Target typePrefix{"DP7"_l1, "DP7:"_l1};
@@ -63,13 +64,13 @@ FieldTable offerFields(bool extended, std::optional<double> factor)
 /// Empty if the offer has none.
 QString description(const ChildLookup &offer)
 {
-    return offer.first(QStringLiteral("description")).text();
+    return textOf(offer.first(QStringLiteral("description")));
 }
 
 /// An extended offer tells that nothing of the good is left.
 bool isSoldOut(const ChildLookup &offer)
 {
-    return offer.first(QStringLiteral("count")).text() == QLatin1String("0");
+    return textOf(offer.first(QStringLiteral("count"))) == QLatin1String("0");
 }
 
 } // namespace
@@ -100,7 +101,7 @@ bool CommXmlReader::exportYmlOffers(bool prefixRows, bool withDescription, bool 
             }
             const QDomElement picture = offer.first(QStringLiteral("picture"));
             if (!picture.isNull())
-                pictureLinks.append({code, withoutTabs(picture.text())});
+                pictureLinks.append({code, withoutTabs(textOf(picture))});
         }
     }
     return !prices.isEmpty();

@@ -22,7 +22,8 @@ class SectionIndexTest : public QObject
         QString xml;
         for (int i = pick(5); i > 0; --i) {
             const QString name = *(sectionNames.begin() + pick(5));
-            const QString content = depth > 0 && name != "Ид" ? tree(depth - 1) : id();
+            const bool isInner = depth > 0 && (name != "Ид" || pick(3) == 0);
+            const QString content = isInner ? tree(depth - 1) : id();
             xml += QString("<%1>%2</%1>").arg(name, content);
             if (pick(2) != 0)
                 xml += QString("<Ид>%1</Ид><Наименование>N%1</Наименование>").arg(id());
@@ -98,23 +99,20 @@ private slots:
         QVERIFY(filled > 1000);
     }
 
-    void idsOfOneHash()
+    void keysOfOneHash()
     {
-        QHash<uint, QString> seen;
-        QString a;
-        QString b;
-        while (a == b) {
-            b = QString::number(random.generate64(), 36);
-            a = seen.value(qHash(b), b);
-            seen.insert(qHash(b), b);
-        }
-        Probe probe(QString("<r><Классификатор><Ид>%1</Ид>"
-                            "<x><Ид>%2</Ид><Наименование>B</Наименование></x>"
-                            "<y><Ид>%1</Ид><Наименование>not first</Наименование></y>"
-                            "</Классификатор></r>")
-                        .arg(a, b));
-        QCOMPARE(probe.groupPath(a), QString());
-        QCOMPARE(probe.groupPath(b), QString("B"));
+        const auto name = [](const QDomNode &parent, int section) {
+            return AncestorPaths::Step{QString::number(section) + parent.nodeName(), {}};
+        };
+        // Without a base only the last character counts.
+        SectionIndex index({"Ид", {}}, 0);
+        const Probe probe("<r><Классификатор><a><Ид>0</Ид></a><b><Ид>10</Ид></b>"
+                          "<c><Ид>0</Ид></c><d><Ид>20</Ид></d></Классификатор></r>");
+        QCOMPARE(index.path(probe.groups, "0", name), QString("0a"));
+        QCOMPARE(index.path(probe.groups, "10", name), QString("0b"));
+        QCOMPARE(index.path(probe.groups, "20", name), QString("0d"));
+        QCOMPARE(index.path(probe.groups, "30", name), QString());
+        QCOMPARE(index.findIn(0, "20").parentNode().nodeName(), QString("d"));
     }
 };
 

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#include "reader/text.h"
+
+static void appendTexts(QString &text, const QDomNode &parent)
+{
+    for (QDomNode child = parent.firstChild(); !child.isNull(); child = child.nextSibling()) {
+        if (child.isText())
+            text += child.nodeValue();
+        else if (child.isElement())
+            appendTexts(text, child);
+    }
+}
+
+QString textOf(const QDomNode &element)
+{
+    const QDomNode child = element.firstChild();
+    if (child.isText() && child.nextSibling().isNull())
+        return child.nodeValue();
+
+    QString text = element.isNull() ? QString() : QLatin1String("");
+    appendTexts(text, element);
+    return text;
+}
