@@ -26,10 +26,14 @@ QList<QByteArray> jobArguments(int, char **)
 
 void readKey()
 {
-    const HANDLE input = GetStdHandle(STD_INPUT_HANDLE);
+    HANDLE input = GetStdHandle(STD_INPUT_HANDLE);
     DWORD mode = 0;
-    if (GetConsoleMode(input, &mode)) {
-        _getch();
+    if (GetConsoleMode(input, &mode) != 0) {
+        // A key that is no letter, an arrow for one, comes as two; the first of them can be a
+        // letter of some code page too, and then comes alone.
+        const int key = _getch();
+        if ((key == 0 || key == 0xE0) && _kbhit() != 0)
+            _getch();
     } else {
         char byte = 0;
         DWORD count = 0;

@@ -5,6 +5,8 @@
 
 root=$(cd "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")/.." && pwd)
 build_packages=(g++ cmake ninja-build qtbase5-dev)
+# What is made once and kept, outside the tree.
+export XML2RYK_CACHE=${XML2RYK_CACHE:-${XDG_CACHE_HOME:-~/.cache}/xml2ryk}
 
 say() { echo "xml2ryk: $*" >&2; }
 

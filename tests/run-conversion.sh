@@ -9,6 +9,11 @@
 #   log.txt      standard error
 #   any other    a file that the command made or changed
 # --accept takes what comes as the expected folder, to be read before it is committed.
+#
+# A PROGRAM for Windows runs under wine. Its console and its log are compared without the carriage
+# return before each line end, and the log is decoded from cp1251. A case with a file `platform` is
+# only for the one that it names, posix or windows; on the other it ends with 77, the code of a
+# skipped test.
 set -euo pipefail
 export LC_ALL=C.UTF-8
 
@@ -18,7 +23,16 @@ if [ $# -ne 2 ] || [ ! -x "$1" ] || [ ! -f "$2/command" ]; then
     echo "usage: $0 [--accept] PROGRAM CASE" >&2
     exit 2
 fi
-program=$(realpath "$1") case=$(realpath "$2")
+program=("$(realpath "$1")") case=$(realpath "$2")
+platform=posix log_encoding=UTF-8 carriage_return=''
+if [[ $1 == *.exe ]]; then
+    platform=windows log_encoding=CP1251 carriage_return=$'\r'
+    program=("$(dirname "$(realpath "$0")")/../windows/run" "${program[@]}")
+fi
+if ! grep -qsx "$platform" "$case/platform" && [ -e "$case/platform" ]; then
+    echo "skipped: only for $(cat "$case/platform")"
+    exit 77
+fi
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 cp -R "$case" "$work/case"
@@ -28,12 +42,14 @@ cd "$work/case"
 
 xml2ryk() {
     local code=0
-    "$program" "$@" || code=$?
+    "${program[@]}" "$@" || code=$?
     echo "[exit $code]"
 }
 # shellcheck source=/dev/null
-(set +eu && . ./command) </dev/null >"$work/console" 2>"$work/actual/log.txt"
-iconv -f CP866 -t UTF-8 "$work/console" >"$work/actual/console.txt"
+(set +eu && . ./command) </dev/null >"$work/console" 2>"$work/log"
+to_text() { iconv -f "$1" -t UTF-8 | sed "s/$carriage_return\$//"; }
+to_text CP866 <"$work/console" >"$work/actual/console.txt"
+to_text "$log_encoding" <"$work/log" >"$work/actual/log.txt"
 find . -type f -print0 | while IFS= read -r -d '' file; do
     cmp -s "$file" "$case/$file" || cp --parents "$file" "$work/actual"
 done

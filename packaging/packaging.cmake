@@ -1,0 +1,84 @@
+# What `cmake --install` copies, and what cpack makes of it: a zip for Windows, a Debian package
+# elsewhere. scripts/package calls cpack. What only one of the two takes is in a component of its own.
+install(TARGETS xml2ryk)
+install(FILES README.md README.ru.md SECURITY.md TYPE DOC)
+install(FILES CHANGELOG.md LICENSE TYPE DOC COMPONENT plain)
+install(DIRECTORY docs TYPE DOC PATTERN xml2ryk.1.md EXCLUDE)
+install(DIRECTORY examples TYPE DOC)
+
+set(CPACK_PACKAGE_VENDOR "the xml2ryk authors")
+set(CPACK_PACKAGE_DIRECTORY ${CMAKE_BINARY_DIR}/packages)
+set(CPACK_VERBATIM_VARIABLES ON)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
+    OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+
+if(WIN32)
+    # A static program contains the toolkit and the run time of the compiler.
+    install(DIRECTORY ${CMAKE_PREFIX_PATH}/licences DESTINATION .)
+    install(FILES /usr/share/doc/mingw-w64-common/copyright
+        DESTINATION licences RENAME mingw-w64-copyright)
+    install(FILES /usr/share/doc/gcc-mingw-w64-base/copyright
+        DESTINATION licences RENAME gcc-copyright)
+
+    set(CPACK_GENERATOR ZIP)
+    set(CPACK_PACKAGE_FILE_NAME ${PROJECT_NAME}-${PROJECT_VERSION}-windows-x64)
+    include(CPack)
+    return()
+endif()
+
+install(FILES packaging/completion.bash
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME xml2ryk)
+
+# compress(SOURCE NAME): a target that makes NAME.gz of the build folder.
+function(compress source name)
+    add_custom_command(OUTPUT ${name}.gz
+        COMMAND gzip -9nc ${source} > ${name}.gz DEPENDS ${source})
+    add_custom_target(${name} ALL DEPENDS ${name}.gz)
+endfunction()
+
+string(TIMESTAMP today "%Y-%m-%d" UTC)
+string(TIMESTAMP now "%a, %d %b %Y %H:%M:%S +0000" UTC)
+
+find_program(PANDOC pandoc)
+if(PANDOC)
+    configure_file(docs/xml2ryk.1.md xml2ryk.1.md @ONLY)
+    add_custom_command(OUTPUT xml2ryk.1
+        COMMAND ${PANDOC} --standalone --to man --output xml2ryk.1 xml2ryk.1.md
+        DEPENDS xml2ryk.1.md)
+    compress(xml2ryk.1 manual)
+    # Who builds only the program has no manual page to install.
+    install(FILES ${CMAKE_CURRENT_BINARY_DIR}/manual.gz
+        DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 RENAME xml2ryk.1.gz OPTIONAL)
+endif()
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_COMPONENTS_ALL Unspecified debian)
+set(CPACK_COMPONENTS_GROUPING ALL_COMPONENTS_IN_ONE)
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
+set(CPACK_DEBIAN_PACKAGE_MAINTAINER "xml2ryk authors <authors@xml2ryk.invalid>")
+set(CPACK_DEBIAN_PACKAGE_SECTION text)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
+"Reads one XML file of trade data and writes one text file that another
+application imports. The source is a CommerceML catalogue, price package
+or set of documents, or a YML shop feed, in any encoding. Goods come with
+the full path of their group, documents with their partner and lines.
+.
+It is made for scripts: one call for one file, no configuration, no state,
+no network, and an exit code that tells the outcome.")
+
+configure_file(packaging/debian-changelog.in debian-changelog @ONLY)
+compress(${CMAKE_CURRENT_BINARY_DIR}/debian-changelog changelog-debian)
+compress(${PROJECT_SOURCE_DIR}/CHANGELOG.md changelog)
+install(FILES packaging/debian-copyright
+    TYPE DOC RENAME copyright COMPONENT debian EXCLUDE_FROM_ALL)
+install(FILES packaging/debian-overrides DESTINATION ${CMAKE_INSTALL_DATADIR}/lintian/overrides
+    RENAME xml2ryk COMPONENT debian EXCLUDE_FROM_ALL)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/changelog-debian.gz
+    TYPE DOC RENAME changelog.Debian.gz COMPONENT debian EXCLUDE_FROM_ALL)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/changelog.gz
+    TYPE DOC COMPONENT debian EXCLUDE_FROM_ALL)
+include(CPack)
