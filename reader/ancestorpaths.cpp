@@ -50,7 +50,7 @@ AncestorPaths::Node *AncestorPaths::find(const QDomNode &start, const StepOf &st
         if (!way.isEmpty() && node->name)
             way.last()->above = node;
         if (!isNew) {
-            const auto loop = std::find(way.begin(), way.end(), node);
+            auto *const loop = std::find(way.begin(), way.end(), node);
             std::for_each(loop, way.end(), [](Node *n) { n->isInLoop = true; });
             return way.isEmpty() ? node : way.first();
         }

@@ -23,9 +23,9 @@ public:
     };
     using StepOf = std::function<Step(const QDomNode &node)>;
 
-    /// The path to `node`; empty if all names are. Ancestors can lead back to where the path has
+    /// The path to `start`; empty if all names are. Ancestors can lead back to where the path has
     /// been: it begins there.
-    QString path(const QDomNode &node, const StepOf &stepOf);
+    QString path(const QDomNode &start, const StepOf &stepOf);
 
     /// Forgets the nodes, ahead of a change of the document.
     void clear() { nodes.clear(); }
@@ -38,7 +38,7 @@ private:
         std::optional<QString> path = {};
     };
 
-    Node *find(const QDomNode &node, const StepOf &stepOf);
+    Node *find(const QDomNode &start, const StepOf &stepOf);
     static QString walk(Node *node);
 
     std::unordered_map<const void *, Node> nodes;
