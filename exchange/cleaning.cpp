@@ -34,9 +34,17 @@ QString priceFormat(double price)
     return QString::number(price, 'g', significantDigits);
 }
 
+double priceNumber(const QString &text)
+{
+    // What is too large is read as infinity all the same.
+    bool isNumber = false;
+    const double number = text.toDouble(&isNumber);
+    return isNumber ? number : 0.0;
+}
+
 QString priceText(const QString &sourceText, std::optional<double> factor)
 {
-    return factor ? priceFormat(sourceText.toDouble() * *factor) : sourceText;
+    return factor ? priceFormat(priceNumber(sourceText) * *factor) : sourceText;
 }
 
 } // namespace exchange

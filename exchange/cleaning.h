@@ -28,8 +28,10 @@ QString simplified(QString text);
 /// exponent form for very large and very small numbers.
 QString priceFormat(double price);
 
+/// The number that a text is. One that is none, or too large for a double, counts as 0.
+double priceNumber(const QString &text);
+
 /// A price as the source has it, or with a factor its product with the factor in priceFormat().
-/// A source text that is no number counts as 0 then.
 QString priceText(const QString &sourceText, std::optional<double> factor);
 
 } // namespace exchange

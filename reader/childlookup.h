@@ -5,15 +5,16 @@
 #include <QString>
 #include <QVarLengthArray>
 
-/// The children of one node, for many lookups by name. They are walked over once: a walk through
-/// the document costs far more than a comparison of names.
+/// The child elements of one node, for many lookups by name. They are walked over once: a walk
+/// through the document costs far more than a comparison of names.
 class ChildLookup
 {
 public:
     explicit ChildLookup(const QDomNode &parent)
     {
-        for (QDomNode child = parent.firstChild(); !child.isNull(); child = child.nextSibling())
-            children.append({child.nodeName(), child});
+        for (QDomElement child = parent.firstChildElement(); !child.isNull();
+             child = child.nextSiblingElement())
+            children.append({child.tagName(), child});
     }
 
     /// The first child element of exactly this name; null if there is none.
@@ -21,15 +22,15 @@ public:
     {
         for (const Child &child : children) {
             if (child.name == name)
-                return child.node.toElement();
+                return child.element;
         }
         return {};
     }
 
 private:
     struct Child {
-        QString name; // of what is no element, it begins with "#"
-        QDomNode node;
+        QString name;
+        QDomElement element;
     };
 
     QVarLengthArray<Child, 32> children;

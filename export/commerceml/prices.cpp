@@ -45,7 +45,7 @@ FieldValues readPrices(const ChildLookup &offer, std::optional<double> factor)
         if (!unitPrice.isNull()) {
             const QString text = textOf(unitPrice);
             values.append({{*rowCode, {}}, priceText(text, factor), {}});
-            numbers.append(text.toDouble() * factor.value_or(1.0));
+            numbers.append(priceNumber(text) * factor.value_or(1.0));
         }
         ++rowCode;
     }
