@@ -1,21 +1,20 @@
 // SPDX-License-Identifier: MIT
 #include "reader/commxmlreader.h"
 
-#include <new>
-
 using namespace exchange;
 
 void CommXmlReader::writeLine(QLatin1String key, const QString &value)
 {
-    // Flushed each time: a file must be readable up to its last line whatever ends the run.
-    if (!outputEnabled)
+    // None is sent behind one that could not be written.
+    if (!outputEnabled || outputStream.status() != QTextStream::Ok)
         return;
-    try {
-        outputStream << key << value << Qt::endl;
-    } catch (const std::bad_alloc &) {
-        outputStream.setStatus(QTextStream::WriteFailed); // keeps the rest of the line back
-        throw;
-    }
+    // Until all of it is written, also where memory runs out on the way.
+    outputStream.setStatus(QTextStream::WriteFailed);
+    // Past the stream, which would keep what could not be written for the next file. Each line at
+    // once: a file must be readable up to its last line whatever ends the run.
+    const QByteArray line = (key + value + QLatin1Char('\n')).toUtf8();
+    if (outputFile.write(line) == line.size())
+        outputStream.resetStatus();
 }
 
 void CommXmlReader::writeFields(const FieldValues &values)

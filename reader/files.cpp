@@ -27,6 +27,7 @@ void CommXmlReader::logMessage(const QString &text)
 bool CommXmlReader::loadSource(const QString &path)
 {
     rootElement.clear();
+    document.clear();
     sourceFile.setFileName(path);
     logMessage(QStringLiteral("Reading file: %1 ... ").arg(path));
     QCoreApplication::processEvents(QEventLoop::AllEvents);

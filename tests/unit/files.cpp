@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "probe.h"
 
+#ifdef Q_OS_UNIX
+#include <csignal>
+#include <sys/resource.h>
+#endif
+
 /// The states that the operations on files leave a reader in, on every path.
 class FilesTest : public QObject
 {
@@ -34,7 +39,7 @@ private slots:
 
             QVERIFY(!probe.loadSource(bad));
             QVERIFY(!probe.sourceFile.isOpen());
-            QVERIFY(probe.rootElement.isNull());
+            QVERIFY(probe.document.isNull() && probe.rootElement.isNull());
             QVERIFY(!probe.readStructure());
             QVERIFY(probe.katalogs.isEmpty());
         }
@@ -83,6 +88,34 @@ private slots:
         }
         probe.closeOutput();
         QVERIFY(isClosed());
+    }
+
+    void nothingIsWrittenBehindALostLine()
+    {
+#ifdef Q_OS_UNIX
+        Probe probe("<r><Каталог><Товары><Товар><Ид>1</Ид></Товар></Товары></Каталог></r>");
+        const auto linesOf = [&](const QString &name, rlim_t largest) {
+            probe.outputFileName = name;
+            probe.outputEnabled = true;
+            const rlimit limit = {largest, RLIM_INFINITY};
+            setrlimit(RLIMIT_FSIZE, &limit);
+            probe.openOutput();
+            probe.exportKatalogs(false, true, true);
+            const rlimit noLimit = {RLIM_INFINITY, RLIM_INFINITY};
+            setrlimit(RLIMIT_FSIZE, &noLimit);
+            probe.exportKatalogs(false, true, true);
+            probe.closeOutput();
+            QFile file(name);
+            return file.open(QIODevice::ReadOnly) ? file.readAll() : "no file";
+        };
+        std::signal(SIGXFSZ, SIG_IGN);
+        const QByteArray lines = "Ryk data for exchange\n##goods\ncode:1\n##endgoods\n";
+        QCOMPARE(linesOf(folder.filePath("torn.txt"), 32), lines.left(32));
+        QCOMPARE(linesOf(folder.filePath("empty.txt"), 0), QByteArray());
+        QCOMPARE(linesOf(folder.filePath("whole.txt"), RLIM_INFINITY), lines + lines.mid(22));
+#else
+        QSKIP("nothing here limits the size of a file");
+#endif
     }
 };
 

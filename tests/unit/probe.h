@@ -43,6 +43,7 @@ inline QStringList nodeTexts(const QDomNode &node)
 class Probe : public CommXmlReader
 {
 public:
+    using CommXmlReader::document;
     using CommXmlReader::goodsRows;
     using CommXmlReader::groups;
     using CommXmlReader::katalogs;
