@@ -21,7 +21,7 @@ QString SectionIndex::path(const QList<QDomNode> &sections, const QString &key,
     if (known != paths.constEnd())
         return *known;
 
-    QString path;
+    QString path = QLatin1String("");
     for (const Entry &entry : findFirsts(key)) {
         const QDomNode found =
             kind.attribute.isEmpty() ? entry.element.parentNode() : QDomNode(entry.element);
@@ -47,11 +47,17 @@ QDomElement SectionIndex::findIn(int section, const QString &key) const
     return {};
 }
 
+void SectionIndex::clear()
+{
+    indexed.clear();
+    build();
+}
+
 void SectionIndex::build()
 {
     paths.clear();
     ancestors.clear();
-    entries.clear();
+    entries = {};
     enclosing.clear();
     while (enclosing.size() < indexed.size()) {
         const int section = enclosing.size();

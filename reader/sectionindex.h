@@ -43,6 +43,9 @@ public:
     /// that is not empty. Empty if none does.
     QString path(const QList<QDomNode> &sections, const QString &key, const StepOf &stepOf);
 
+    /// Forgets the sections and their document.
+    void clear();
+
     /// The first element with this key in one section of the latest path(), the sections nested in
     /// it left out; null if there is none.
     QDomElement findIn(int section, const QString &key) const;

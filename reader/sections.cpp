@@ -26,6 +26,8 @@ bool CommXmlReader::readStructure()
 {
     for (QList<QDomNode> *sections : {&katalogs, &groups, &docs, &prices})
         sections->clear();
+    groupIndex.clear();
+    categoryIndex.clear();
     pictureLinks.clear();
     if (rootElement.isNull())
         return false;

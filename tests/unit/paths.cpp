@@ -15,7 +15,8 @@ class PathsTest : public QObject
             QTEST(probe.pathBuffer, "expected");
         }
         probe.groups.clear();
-        QCOMPARE((probe.*pathOf)(id), QString());
+        QCOMPARE((probe.*pathOf)(id), QString(""));
+        QVERIFY(!(probe.*pathOf)(id).isNull() && !probe.pathBuffer.isNull());
     }
 
 private slots:
@@ -24,6 +25,20 @@ private slots:
     void groupPath() { check("classifiers.xml", &CommXmlReader::groupPath); }
 
     void ymlCategoryPath_data() { addRows("category-paths.txt"); }
+
+    void readStructureForgetsPaths()
+    {
+        Probe probe("<r><Классификатор><Ид>1</Ид><Наименование>old</Наименование>"
+                    "<category id='1'>old</category></Классификатор></r>");
+        for (const QString name : {"old", "new"}) {
+            QCOMPARE(probe.groupPath("1"), name);
+            QCOMPARE(probe.ymlCategoryPath("1"), name);
+            for (QDomNode child :
+                 {probe.groups.first().childNodes().at(1), probe.groups.first().childNodes().at(2)})
+                child.firstChild().setNodeValue("new");
+            QVERIFY(probe.readStructure());
+        }
+    }
 
     void ymlCategoryPath() { check("categories.xml", &CommXmlReader::ymlCategoryPath); }
 };
