@@ -31,7 +31,8 @@ struct JobOptions {
 /// toolkit do not change it, and the toolkit's own warnings stay out of it.
 void fixLog()
 {
-    for (const char *variable : {"QT_LOGGING_CONF", "QT_LOGGING_RULES", "QT_MESSAGE_PATTERN"})
+    for (const char *variable :
+         {"QT_LOGGING_CONF", "QT_LOGGING_DEBUG", "QT_LOGGING_RULES", "QT_MESSAGE_PATTERN"})
         qunsetenv(variable);
     qputenv("QT_FORCE_STDERR_LOGGING", "1");
     QLoggingCategory::setFilterRules(QStringLiteral("default.debug=true\ndefault.warning=false"));
