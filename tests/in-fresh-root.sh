@@ -6,6 +6,7 @@ set -euo pipefail
 # shellcheck source-path=SCRIPTDIR source=../scripts/setup.sh
 . "$(dirname "$(readlink -f "$0")")/../scripts/setup.sh"
 
+expect_arguments 2 2 "$@"
 package=$(realpath "$1") program=$(realpath "$2")
 install_packages debootstrap
 fresh=$(mktemp -d)

@@ -3,8 +3,11 @@
 # tests/key-on-windows.sh PROGRAM: the pause on a console of wine, which a terminal shows. A key counts
 # without Enter and is not echoed, and an arrow is one key, although the C runtime makes two of it.
 set -euo pipefail
+# shellcheck source-path=SCRIPTDIR source=../scripts/setup.sh
+. "$(dirname "$(readlink -f "$0")")/../scripts/setup.sh"
 
-program=$(realpath "$1") run=$(realpath "$(dirname "$0")/../windows/run")
+expect_arguments 1 1 "$@"
+program=$(realpath "$1") run=$root/windows/run
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 cd "$work"

@@ -15,19 +15,20 @@
 # only for the one that it names, posix or windows; on the other it ends with 77, the code of a
 # skipped test.
 set -euo pipefail
+# shellcheck source-path=SCRIPTDIR source=../scripts/setup.sh
+. "$(dirname "$(readlink -f "$0")")/../scripts/setup.sh"
 export LC_ALL=C.UTF-8
 
 accept=
 [ "${1:-}" != --accept ] || { accept=yes && shift; }
-if [ $# -ne 2 ] || [ ! -x "$1" ] || [ ! -f "$2/command" ]; then
-    echo "usage: $0 [--accept] PROGRAM CASE" >&2
-    exit 2
-fi
+expect_arguments 2 2 "$@"
+[ -x "$1" ] || refuse "there is no program $1"
+[ -f "$2/command" ] || refuse "there is no case $2"
 program=("$(realpath "$1")") case=$(realpath "$2")
 platform=posix log_encoding=UTF-8 carriage_return=''
 if [[ $1 == *.exe ]]; then
     platform=windows log_encoding=CP1251 carriage_return=$'\r'
-    program=("$(dirname "$(realpath "$0")")/../windows/run" "${program[@]}")
+    program=("$root/windows/run" "${program[@]}")
 fi
 if ! grep -qsx "$platform" "$case/platform" && [ -e "$case/platform" ]; then
     echo "skipped: only for $(cat "$case/platform")"

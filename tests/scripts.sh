@@ -1,0 +1,69 @@
+#!/usr/bin/env bash
+#
+# tests/scripts.sh: the manners of the scripts, tried in a copy of them that has nothing to build, on
+# a machine that seems to lack every package.
+set -euo pipefail
+
+cd "$(dirname "$(readlink -f "$0")")/.."
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+mkdir "$work/tree" "$work/bin"
+cp -R --parents .ci scripts tests/*.sh "$work/tree"
+cd "$work/tree"
+export XML2RYK_CACHE=$work/tree/cache CALLS=$work/calls PATH=$work/bin:$PATH
+: >"$CALLS"
+for tool in dpkg-query sudo apt-get; do
+    echo '#!/bin/sh' >"$work/bin/$tool"
+done
+echo 'exit 1' >>"$work/bin/dpkg-query"
+echo 'exec "$@"' >>"$work/bin/sudo"
+# A source of packages is broken, and the first installation finds the lock taken.
+cat >>"$work/bin/apt-get" <<'END'
+echo "$*" >>"$CALLS"
+case $2$(grep -c install "$CALLS") in
+update*) echo 'E: a broken source' ;;
+install1) echo 'E: Could not get lock' ;;
+*) exit 0 ;;
+esac
+exit 100
+END
+chmod +x "$work/bin"/*
+
+fail() {
+    echo "$*; its standard error:"
+    cat "$work/error"
+    exit 1
+}
+
+# ends_with CODE COMMAND...
+ends_with() {
+    local wanted=$1 code=0
+    shift
+    "$@" </dev/null >"$work/output" 2>"$work/error" || code=$?
+    [ "$code" -eq "$wanted" ] || fail "$* ends with $code instead of $wanted"
+}
+
+find . >"$work/before"
+touch occupied
+for script in .ci/run scripts/{fuzz,test,windows} tests/{in-fresh-root,key-on-windows,run-conversion}.sh; do
+    ends_with 0 "$script" --help
+    grep -q "^$script" "$work/output" || fail "$script --help does not tell how it is called"
+    ends_with 64 "$script" --nonsense
+    ends_with 64 "$script" a b c
+done
+ends_with 64 scripts/fuzz nonsense
+ends_with 69 scripts/test nonsense
+XML2RYK_QT=$work ends_with 69 scripts/windows
+XML2RYK_CACHE=$work/tree/occupied ends_with 69 scripts/windows
+rm occupied
+find . | diff "$work/before" - || fail "refused, and yet done"
+touch build
+ends_with 69 scripts/convert a b
+[ ! -s "$CALLS" ] || fail "packages were installed for nothing"
+
+rm build
+ends_with 69 scripts/convert a b
+[ "$(cut -d ' ' -f 2 "$CALLS" | xargs)" = "update install install" ] || fail "not installed"
+for said in "a broken source" waiting "can't configure"; do
+    grep -q "^xml2ryk: .*$said" "$work/error" || fail "scripts/convert does not tell: $said"
+done
