@@ -87,7 +87,7 @@ install_packages() {
     say "installing ${missing[*]}"
     # A source of packages that nobody needs here may well be broken.
     if ! run_apt update || grep -q '^[EW]:' "$log"; then
-        [ -s "$log" ] || give_up "$needs_root"
+        [ -s "$log" ] || { rm "$log" && give_up "$needs_root"; }
         say "going on without some lists of packages: $(grep -m 1 '^[EW]:' "$log")"
     fi
     run_apt install --yes --no-install-recommends "${missing[@]}" ||
@@ -143,6 +143,7 @@ build() {
 # run_tests PRESET DIRECTORY: of a skipped test, CTest itself tells only that it was.
 run_tests() {
     local code=0
+    writable "$root/$2" || give_up "no right to write in $root/$2"
     (cd "$root" && ctest --preset "$1") || code=$?
     awk '/^[0-9]+\/[0-9]+ Test: / { name = $3 }
          /^skipped: / { print "skipped " name ":" substr($0, 9) }' \
