@@ -1,32 +1,54 @@
-# What `cmake --install` copies, and what cpack makes of it: a zip for Windows, a Debian package
-# elsewhere. scripts/package calls cpack. What only one of the two takes is in a component of its own.
+# What `cmake --install` copies. scripts/package makes a zip of it for Windows, and a Debian package
+# elsewhere, with cpack. What that package leaves out, or alone takes, is in a component of its own.
 install(TARGETS xml2ryk)
-install(FILES README.md README.ru.md SECURITY.md TYPE DOC)
-install(FILES CHANGELOG.md LICENSE TYPE DOC COMPONENT plain)
-install(DIRECTORY docs TYPE DOC PATTERN xml2ryk.1.md EXCLUDE)
 install(DIRECTORY examples TYPE DOC)
 
-set(CPACK_PACKAGE_VENDOR "the xml2ryk authors")
-set(CPACK_PACKAGE_DIRECTORY ${CMAKE_BINARY_DIR}/packages)
-set(CPACK_VERBATIM_VARIABLES ON)
-set(CPACK_STRIP_FILES ON)
-set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
-    OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+find_program(PANDOC pandoc)
 
 if(WIN32)
+    # What people read comes as pages and texts that a double click opens.
+    set(pages ${CMAKE_CURRENT_BINARY_DIR}/pages)
+    file(MAKE_DIRECTORY ${pages}/docs ${pages}/licences)
+    if(PANDOC)
+        file(GLOB documents CONFIGURE_DEPENDS RELATIVE ${PROJECT_SOURCE_DIR}
+            README*.md SECURITY*.md CHANGELOG*.md docs/*.md)
+        list(FILTER documents EXCLUDE REGEX ^docs/xml2ryk) # the manual page
+        foreach(document IN LISTS documents)
+            string(REGEX REPLACE "md$" "html" page ${pages}/${document})
+            add_custom_command(OUTPUT ${page}
+                COMMAND ${PANDOC} --from gfm --to html5 --self-contained --no-highlight --eol crlf
+                    --css packaging/page.css --lua-filter packaging/page.lua
+                    --output ${page} ${document}
+                WORKING_DIRECTORY ${PROJECT_SOURCE_DIR}
+                DEPENDS ${document} packaging/page.css packaging/page.lua)
+            list(APPEND made ${page})
+        endforeach()
+    endif()
+    # text(SOURCE NAME): NAME of the zip, with the line ends of Windows.
+    function(text source name)
+        add_custom_command(OUTPUT ${pages}/${name}
+            COMMAND sed "s/$/\\r/" ${source} > ${pages}/${name} DEPENDS ${source} VERBATIM)
+        set(made ${made} ${pages}/${name} PARENT_SCOPE)
+    endfunction()
+    text(${PROJECT_SOURCE_DIR}/LICENSE LICENSE.txt)
     # A static program contains the toolkit and the run time of the compiler.
-    install(DIRECTORY ${CMAKE_PREFIX_PATH}/licences DESTINATION .)
-    install(FILES /usr/share/doc/mingw-w64-common/copyright
-        DESTINATION licences RENAME mingw-w64-copyright)
-    install(FILES /usr/share/doc/gcc-mingw-w64-base/copyright
-        DESTINATION licences RENAME gcc-copyright)
+    file(GLOB licences ${CMAKE_PREFIX_PATH}/licences/*)
+    foreach(licence IN LISTS licences)
+        cmake_path(GET licence FILENAME name)
+        text(${licence} licences/${name}.txt)
+    endforeach()
+    text(/usr/share/doc/mingw-w64-common/copyright licences/mingw-w64-copyright.txt)
+    text(/usr/share/doc/gcc-mingw-w64-base/copyright licences/gcc-copyright.txt)
 
-    set(CPACK_GENERATOR ZIP)
-    set(CPACK_PACKAGE_FILE_NAME ${PROJECT_NAME}-${PROJECT_VERSION}-windows-x64)
-    include(CPack)
+    add_custom_target(pages ALL DEPENDS ${made})
+    install(DIRECTORY ${pages}/ DESTINATION .)
     return()
 endif()
 
+file(GLOB documents CONFIGURE_DEPENDS README*.md SECURITY*.md)
+install(FILES ${documents} TYPE DOC)
+install(FILES CHANGELOG.md LICENSE TYPE DOC COMPONENT plain)
+install(DIRECTORY docs TYPE DOC PATTERN xml2ryk.* EXCLUDE)
 install(FILES packaging/completion.bash
     DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME xml2ryk)
 
@@ -40,7 +62,6 @@ endfunction()
 string(TIMESTAMP today "%Y-%m-%d" UTC)
 string(TIMESTAMP now "%a, %d %b %Y %H:%M:%S +0000" UTC)
 
-find_program(PANDOC pandoc)
 if(PANDOC)
     configure_file(docs/xml2ryk.1.md xml2ryk.1.md @ONLY)
     add_custom_command(OUTPUT xml2ryk.1
@@ -52,6 +73,12 @@ if(PANDOC)
         DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 RENAME xml2ryk.1.gz OPTIONAL)
 endif()
 
+set(CPACK_PACKAGE_VENDOR "the xml2ryk authors")
+set(CPACK_PACKAGE_DIRECTORY ${CMAKE_BINARY_DIR}/packages)
+set(CPACK_VERBATIM_VARIABLES ON)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
+    OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 set(CPACK_GENERATOR DEB)
 set(CPACK_COMPONENTS_ALL Unspecified debian)
 set(CPACK_COMPONENTS_GROUPING ALL_COMPONENTS_IN_ONE)

@@ -1,0 +1,91 @@
+#!/usr/bin/env bash
+#
+# tests/from-zip.sh ZIP: under wine, what README.md tells a newcomer to do on Windows, word for word:
+# unpacks the zip, also over itself, and runs the commands, which must give what build/xml2ryk gives.
+# Then once more in a folder with blanks and Cyrillic letters. The texts in the zip must be for Windows,
+# and each of their links must lead somewhere.
+set -euo pipefail
+# shellcheck source-path=SCRIPTDIR source=../scripts/setup.sh
+. "$(dirname "$(readlink -f "$0")")/../scripts/setup.sh"
+
+install_packages unzip libxml2-utils
+zip=$(realpath "$1")
+work=$(mktemp -d)
+trap 'WINEPREFIX=$work/wine wineserver --kill || true; rm -rf "$work"' EXIT
+
+fail() {
+    echo "$*" >&2
+    exit 1
+}
+
+# A Windows of its own, with the system of the one that is there.
+kept=$XML2RYK_CACHE
+export XML2RYK_CACHE=$work
+drive=$work/wine/drive_c
+mkdir -p "$drive" "$work/wine/dosdevices"
+ln -s "$kept/locale" "$work/locale"
+ln -s "$kept/wine/drive_c/windows" "$drive/windows"
+ln -s ../drive_c "$work/wine/dosdevices/c:"
+cp "$kept"/wine/{*.reg,.update-timestamp} "$work/wine"
+
+# The blocks of commands of the chapter, as files that cmd reads; notepad would need a screen.
+sed -n '/^### On Windows/,/^### On Debian/p' "$root/README.md" | sed '/^ *notepad /d' |
+    awk -v name="$work/block" '/^ *```bat$/ { to = name (++count) ".bat"; next } /^ *```$/ { to = "" }
+        to { sub(/^   /, ""); print $0 "\r" >to }'
+[ "$(cd "$work" && echo block*.bat)" = "block1.bat block2.bat" ] ||
+    fail "README.md has other commands for Windows than a first conversion and a batch file"
+
+orders=$root/examples/orders-windows-1251.xml
+"$root/build/xml2ryk" "$orders" "$work/expected.txt" </dev/null >/dev/null 2>&1
+
+# run BATCH: its answer, which must not be an error.
+run() {
+    answer=$("$root/windows/run" cmd /c "$1" </dev/null 2>&1 | iconv -c -f CP866) ||
+        fail "$1 ends with an error and says: $answer"
+}
+
+# try_in FOLDER: the steps where the zip is unpacked into that folder of the drive, over an old program.
+try_in() {
+    local parent=$drive$1
+    mkdir -p "$parent/xml2ryk"
+    echo old >"$parent/xml2ryk/xml2ryk.exe"
+    unzip -q -o "$zip" -d "$parent"
+    unzip -q -o "$zip" -d "$parent"
+    sed "s|C:.xml2ryk|C:${1//\//\\\\}\\\\xml2ryk|" "$work/block1.bat" | iconv -t CP866 >"$drive/steps.bat"
+    run 'C:\steps.bat'
+    cmp "$work/expected.txt" "$parent/xml2ryk/orders.txt"
+}
+[ "$(unzip -Z1 "$zip" | cut -d / -f 1 | sort -u)" = xml2ryk ] || fail "not all is in a folder xml2ryk"
+try_in ""
+try_in "/Мои программы"
+
+folder=$drive/Мой\ обмен
+mkdir "$folder"
+cp "$orders" "$folder/orders.xml"
+cp "$work/block2.bat" "$folder/convert.bat"
+run 'C:\Мой обмен\convert.bat'
+grep -q '^Exit code: 0' <<<"$answer" || fail "the batch file answers: $answer"
+cmp "$work/expected.txt" "$folder/orders.txt"
+
+say "checking the texts of the zip"
+cd "$drive/xml2ryk"
+rm orders.txt
+find . -name '*.html' -o -name '*.txt' | while IFS= read -r text; do
+    ! grep -qv $'\r$' "$text" || fail "$text: not the line ends of Windows"
+done
+find . -name '*.html' | while IFS= read -r page; do
+    language=en
+    [[ $page != *.ru.html ]] || language=ru
+    grep -q "<html [^>]* lang=\"$language\"" "$page" || fail "$page: not marked as $language"
+    grep -q 'charset="utf-8"' "$page" || fail "$page: no charset"
+    { xmllint --html --xpath '//@href | //@src' "$page" 2>/dev/null || true; } |
+        sed -n '/"https*:/d; s/^ *[a-z]*="\(.*\)"$/\1/p' | while IFS= read -r link; do
+        [[ $link != \#* ]] || link=$(basename "$page")$link
+        target=$(dirname "$page")/${link%%#*}
+        [ -e "$target" ] || fail "$page: nothing at $link"
+        [[ $link != *#* ]] || grep -qF "id=\"${link#*#}\"" "$target" || fail "$page: no place $link"
+    done
+done
+for page in README.html README.ru.html; do
+    ! grep -n 'scripts/' "$page" || fail "$page has chapters that are not for Windows"
+done
