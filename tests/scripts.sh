@@ -8,7 +8,7 @@ cd "$(dirname "$(readlink -f "$0")")/.."
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 mkdir "$work/tree" "$work/bin"
-cp -R --parents .ci scripts tests/*.sh "$work/tree"
+cp -R --parents .ci scripts checks tests/*.sh "$work/tree"
 cd "$work/tree"
 export XML2RYK_CACHE=$work/tree/cache CALLS=$work/calls PATH=$work/bin:$PATH
 : >"$CALLS"
@@ -45,7 +45,8 @@ ends_with() {
 
 find . >"$work/before"
 touch occupied
-for script in .ci/run scripts/{fuzz,test,windows} tests/{in-fresh-root,key-on-windows,run-conversion}.sh; do
+for script in .ci/run scripts/{fuzz,package,test,windows} tests/{key-on-windows,run-conversion}.sh \
+    checks/{from-zip,hardened,in-fresh-root,repeatable-packages}.sh; do
     ends_with 0 "$script" --help
     grep -q "^$script" "$work/output" || fail "$script --help does not tell how it is called"
     ends_with 64 "$script" --nonsense

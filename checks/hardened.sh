@@ -1,10 +1,14 @@
 #!/usr/bin/env bash
 #
-# tests/hardened.sh FILE...: whether each program, or the program in each package, is hardened.
+# checks/hardened.sh FILE...: whether each program, or the program in each package, is hardened.
 set -euo pipefail
 # shellcheck source-path=SCRIPTDIR source=../scripts/setup.sh
 . "$(dirname "$(readlink -f "$0")")/../scripts/setup.sh"
 
+expect_arguments 1 100 "$@"
+for file in "$@"; do
+    [ -f "$file" ] || refuse "there is no file $file"
+done
 install_packages binutils binutils-mingw-w64-x86-64 devscripts unzip
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 #
-# tests/from-zip.sh ZIP: under wine, what README.md tells a newcomer to do on Windows, word for word:
+# checks/from-zip.sh ZIP: under wine, what README.md tells a newcomer to do on Windows, word for word:
 # unpacks the zip, also over itself, and runs the commands, which must give what build/xml2ryk gives.
 # Then once more in a folder with blanks and Cyrillic letters. The texts in the zip must be for Windows,
 # and each of their links must lead somewhere.
@@ -8,6 +8,7 @@ set -euo pipefail
 # shellcheck source-path=SCRIPTDIR source=../scripts/setup.sh
 . "$(dirname "$(readlink -f "$0")")/../scripts/setup.sh"
 
+expect_arguments 1 1 "$@"
 install_packages unzip libxml2-utils
 zip=$(realpath "$1")
 work=$(mktemp -d)

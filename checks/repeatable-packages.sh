@@ -1,11 +1,12 @@
 #!/usr/bin/env bash
 #
-# tests/repeatable-packages.sh: makes the packages of the last commit once more, in a clone at another
+# checks/repeatable-packages.sh: makes the packages of the last commit once more, in a clone at another
 # path, by somebody with other settings. They must be those of build-packages/, byte for byte.
 set -euo pipefail
 # shellcheck source-path=SCRIPTDIR source=../scripts/setup.sh
 . "$(dirname "$(readlink -f "$0")")/../scripts/setup.sh"
 
+expect_arguments 0 0 "$@"
 cd "$root"
 XML2RYK_QT=$(sed -n 's/^CMAKE_PREFIX_PATH:.*=//p' build-windows/CMakeCache.txt)
 export XML2RYK_QT

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 #
-# tests/in-fresh-root.sh PACKAGE PROGRAM: as root, installs the Debian package on a new minimal Debian,
+# checks/in-fresh-root.sh PACKAGE PROGRAM: as root, installs the Debian package on a new minimal Debian,
 # converts an example, which must give what PROGRAM gives, and removes the package again.
 set -euo pipefail
 # shellcheck source-path=SCRIPTDIR source=../scripts/setup.sh
