@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "exchange/cleaning.h"
 
+#include <cmath>
 #include <utility>
 
 namespace exchange
@@ -34,17 +35,13 @@ QString priceFormat(double price)
     return QString::number(price, 'g', significantDigits);
 }
 
-double priceNumber(const QString &text)
+Price readPrice(const QString &sourceText, std::optional<double> factor)
 {
     // What is too large is read as infinity all the same.
-    bool isNumber = false;
-    const double number = text.toDouble(&isNumber);
-    return isNumber ? number : 0.0;
-}
-
-QString priceText(const QString &sourceText, std::optional<double> factor)
-{
-    return factor ? priceFormat(priceNumber(sourceText) * *factor) : sourceText;
+    bool isRead = false;
+    const double read = sourceText.toDouble(&isRead);
+    const double number = (isRead ? read : 0.0) * factor.value_or(1.0);
+    return {number, factor ? priceFormat(number) : sourceText, isRead && std::isfinite(read)};
 }
 
 } // namespace exchange

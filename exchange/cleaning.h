@@ -28,10 +28,14 @@ QString simplified(QString text);
 /// exponent form for very large and very small numbers.
 QString priceFormat(double price);
 
-/// The number that a text is. One that is none, or too large for a double, counts as 0.
-double priceNumber(const QString &text);
+/// A price of a source.
+struct Price {
+    double number; ///< 0 where the text is no number, or one too large for a double
+    QString text;  ///< as in the source, or the product with a factor in priceFormat()
+    bool isNumber; ///< false also for infinity and what is called nan
+};
 
-/// A price as the source has it, or with a factor its product with the factor in priceFormat().
-QString priceText(const QString &sourceText, std::optional<double> factor);
+/// Reads a price, and multiplies it by `factor` if there is one.
+Price readPrice(const QString &sourceText, std::optional<double> factor);
 
 } // namespace exchange

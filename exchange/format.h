@@ -51,6 +51,18 @@ struct Target {
     QLatin1String key;
 };
 
+/// A value that no goods row has.
+constexpr Target lineOnly(QLatin1String key)
+{
+    return {{}, key};
+}
+
+/// A value that the exchange file does not have.
+constexpr Target rowOnly(QLatin1String rowCode)
+{
+    return {rowCode, {}};
+}
+
 // Targets of several tables. One that a single table fills stands there.
 namespace target
 {

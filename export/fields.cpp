@@ -2,10 +2,11 @@
 #include "export/fields.h"
 
 #include "reader/commxmlreader.h"
-#include "reader/text.h"
 
-exchange::FieldValues readFields(CommXmlReader &reader, const ChildLookup &item,
-                                 const FieldTable &table)
+namespace exporter
+{
+
+exchange::FieldValues readFields(const ChildLookup &item, const FieldTable &table)
 {
     exchange::FieldValues values;
     values.reserve(table.size());
@@ -15,23 +16,23 @@ exchange::FieldValues readFields(CommXmlReader &reader, const ChildLookup &item,
             element = item.first(field.otherElement);
         if (element.isNull())
             continue;
-        if (const std::optional<QString> value = field.reading(reader, element))
+        if (const std::optional<QString> value = field.reading(element))
             values.append({field.target, field.rowCleaning(*value), field.lineCleaning(*value)});
     }
     return values;
 }
 
-std::optional<QString> fullText(CommXmlReader &, const QDomElement &element)
+std::optional<QString> fullText(const QDomElement &element)
 {
     return textOf(element);
 }
 
-std::optional<QString> filledText(CommXmlReader &, const QDomElement &element)
+std::optional<QString> filledText(const QDomElement &element)
 {
     return unlessEmpty(textOf(element));
 }
 
-std::optional<QString> ownText(CommXmlReader &, const QDomElement &element)
+std::optional<QString> ownText(const QDomElement &element)
 {
     return unlessEmpty(CommXmlReader::directText(element));
 }
@@ -40,3 +41,5 @@ std::optional<QString> unlessEmpty(const QString &text)
 {
     return text.isEmpty() ? std::nullopt : std::optional(text);
 }
+
+} // namespace exporter

@@ -5,7 +5,7 @@
 
 #include "exchange/cleaning.h"
 #include "exchange/format.h"
-#include "reader/childlookup.h"
+#include "reader/tree.h"
 
 #include <QDomElement>
 #include <QString>
@@ -14,11 +14,11 @@
 #include <functional>
 #include <optional>
 
-class CommXmlReader;
+namespace exporter
+{
 
 /// Takes a field's value from its element, which exists; nothing where the field is left out.
-using Reading =
-    std::function<std::optional<QString>(CommXmlReader &reader, const QDomElement &element)>;
+using Reading = std::function<std::optional<QString>(const QDomElement &element)>;
 
 /// One line of a field table.
 struct Field {
@@ -33,19 +33,20 @@ struct Field {
 using FieldTable = QVector<Field>;
 
 /// The values of an item's fields, in the order of the table. Absent elements give none.
-exchange::FieldValues readFields(CommXmlReader &reader, const ChildLookup &item,
-                                 const FieldTable &table);
+exchange::FieldValues readFields(const ChildLookup &item, const FieldTable &table);
 
 // Readings that any table may use.
 
 /// The full text, be it empty.
-std::optional<QString> fullText(CommXmlReader &reader, const QDomElement &element);
+std::optional<QString> fullText(const QDomElement &element);
 
 /// The full text, unless it is empty.
-std::optional<QString> filledText(CommXmlReader &reader, const QDomElement &element);
+std::optional<QString> filledText(const QDomElement &element);
 
 /// The text without that of child elements, unless it is empty.
-std::optional<QString> ownText(CommXmlReader &reader, const QDomElement &element);
+std::optional<QString> ownText(const QDomElement &element);
 
 /// `text`, unless it is empty.
 std::optional<QString> unlessEmpty(const QString &text);
+
+} // namespace exporter

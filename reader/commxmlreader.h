@@ -4,9 +4,8 @@
 // outputFileName and outputEnabled, then openOutput(), the exporters, closeOutput().
 #pragma once
 
-#include "exchange/format.h"
-#include "exchange/goodsrow.h"
-#include "reader/sectionindex.h"
+#include "exchange/writer.h"
+#include "reader/pathindex.h"
 
 #include <QDomDocument>
 #include <QFile>
@@ -14,6 +13,12 @@
 #include <QPair>
 #include <QStringList>
 #include <QTextStream>
+
+namespace exporter
+{
+class Observer;
+struct Export;
+} // namespace exporter
 
 /// The kind of a source, told by the name of its root element.
 enum SourceDialect : int {
@@ -38,14 +43,14 @@ public:
     QString outputFileName;          ///< path of the exchange file; null after closeOutput()
     bool outputEnabled = false;      ///< no line reaches the exchange file while this is false
 
-    CommXmlReader();
+    CommXmlReader() = default;
 
     /// Closes the exchange file if it is still open; writes nothing.
     ~CommXmlReader();
 
     Q_DISABLE_COPY(CommXmlReader)
 
-    // --- Object and files -------------------------------------------------------------------
+    // --- Object and files: reader/files.cpp ------------------------------------------------------
 
     /// Writes `text` in quotation marks, with a blank behind them, as a line of the toolkit's debug
     /// output, which for a console program is standard error, in the local 8-bit encoding.
@@ -65,7 +70,7 @@ public:
     /// goodsRows.
     void closeOutput();
 
-    // --- Section lists ----------------------------------------------------------------------
+    // --- Section lists: reader/sections.cpp ------------------------------------------------------
 
     /// Tells the dialect from the root's name, in any case of letters, and fills the section lists
     /// anew. A root of another name leaves the dialect as it was. False if there is no root.
@@ -75,7 +80,7 @@ public:
     /// other sections included.
     void collectSections(const QDomNode &parent);
 
-    // --- Node access ------------------------------------------------------------------------
+    // --- Node access: reader/nodes.cpp -----------------------------------------------------------
 
     /// The text and CDATA children of `node`, joined; empty, not null, if there are none.
     static QString directText(const QDomNode &node);
@@ -93,7 +98,7 @@ public:
     static QDomNode findElementByAttribute(const QDomNode &parent, const QString &tag,
                                            const QString &attribute, const QString &value);
 
-    // --- Paths ------------------------------------------------------------------------------
+    // --- Paths: reader/paths.cpp, export/yml/categories.cpp --------------------------------------
 
     /// The names from the top group down to the CommerceML group with this "Ид", joined by " \ ";
     /// empty if no section of groups gives one.
@@ -104,7 +109,7 @@ public:
     /// of them ends where it leads back to a category already walked.
     QString ymlCategoryPath(const QString &id);
 
-    // --- CommerceML catalogues and offers ---------------------------------------------------
+    // --- CommerceML catalogues and offers: export/commerceml/katalogs.cpp, prices.cpp ------------
 
     /// Exports the goods of katalogs. `prefixRows`: goods rows start with "##" and a tab.
     /// `withDescription`: descriptions are exported. `markHtml`: the row of a described good says
@@ -118,7 +123,7 @@ public:
     bool exportPrices(bool prefixRows, bool withDescription, bool markHtml, bool extendedOffers,
                       bool applyFactor, double priceFactor);
 
-    // --- YML offers -------------------------------------------------------------------------
+    // --- YML offers: export/yml/offers.cpp -------------------------------------------------------
 
     /// Exports the offers of prices, and fills pictureLinks anew. `extendedOffers`: with the
     /// extended fields, a composed name, the unit, and no goods row for an offer whose count is 0;
@@ -126,7 +131,7 @@ public:
     bool exportYmlOffers(bool prefixRows, bool withDescription, bool markHtml, bool extendedOffers,
                          bool applyFactor, double priceFactor);
 
-    // --- CommerceML documents ---------------------------------------------------------------
+    // --- CommerceML documents: export/commerceml/documents.cpp, orderlines.cpp -------------------
 
     /// Exports each document of docs as a partner, an order head and order lines; `withGoods`: with
     /// a goods block ahead of each line. `documentType`: 1 for sales, to a buyer, 0 for purchases,
@@ -139,7 +144,7 @@ public:
     /// goods row of its own; writes no line. False if there is no document or it has no lines.
     bool collectDocumentRows(bool withGoods);
 
-    // --- Clipboard: link xml2ryk-clipboard, and have a QGuiApplication -----------------------
+    // --- Clipboard: exchange/clipboard.cpp -------------------------------------------------------
 
     /// Puts goodsRows on the clipboard, each with a line feed behind it.
     void copyRowsToClipboard();
@@ -149,13 +154,19 @@ public:
     /// exportPrices() on the clipboard.
     void runDiagnostics();
 
+    // --- Observer: export/observer.h ------------------------------------------------------------
+
+    /// Has `newObserver` hear of all that the exporters do from now on. Null, as it is at first:
+    /// nobody does.
+    void setObserver(exporter::Observer *newObserver) { observer = newObserver; }
+
 protected:
     QFile sourceFile;         ///< open only inside loadSource()
     QDomDocument document;    ///< the parsed source
     QDomElement rootElement;  ///< null until a source is loaded
     QStringList goodsRows;    ///< the goods once more, as tab-coded rows
     QFile outputFile;         ///< the exchange file
-    QTextStream outputStream; ///< on outputFile, in UTF-8, while that is open
+    QTextStream outputStream; ///< on outputFile, in UTF-8, while that is open; holds no line
     QList<QDomNode> katalogs; ///< "Каталог" sections
     QList<QDomNode> groups;   ///< "Классификатор" and "categories" sections
     QList<QDomNode> docs;     ///< "Документ" sections
@@ -163,41 +174,17 @@ protected:
     QString pathBuffer;       ///< the latest path built
     SourceDialect dialect = UndeterminedDialect;
 
+    exporter::Observer *observer = nullptr;
+    exchange::Writer writer{outputFile, outputEnabled}; ///< the one way into the exchange file
+    PathIndex groupIndex{groupPaths};                   ///< over groups, for CommerceML
+    PathIndex categoryIndex{categoryPaths};             ///< over groups, for YML
+
+    /// What an export of this reader takes paths from and where it goes.
+    exporter::Export exportTo(exchange::Writer &lines, PathIndex &index);
+
 private:
-    // Not only groups bear ids: the element that comes first in a section ends the path.
-    SectionIndex groupIndex;
-    SectionIndex categoryIndex;
+    static const PathIndex::Kind groupPaths;
+    static const PathIndex::Kind categoryPaths;
 
-    // --- What the exporters share -----------------------------------------------------------
-
-    /// The one gate to the exchange file: a line of `key` and `value`, flushed.
-    void writeLine(QLatin1String key, const QString &value = QString());
-
-    /// A line for each of `values` that has a key.
-    void writeFields(const exchange::FieldValues &values);
-
-    /// `text` between its marker lines; nothing if it is empty.
-    void writeText(const QString &text);
-
-    /// A goods block; an empty `description` is left out.
-    void writeGoods(const QString &code, const exchange::FieldValues &values,
-                    const QString &description = QString());
-
-    /// How an exporter of goods presents them.
-    struct GoodsOptions {
-        bool prefixRows;
-        exchange::HtmlMark htmlMark;
-    };
-
-    /// One good: its block in the exchange file, and its goods row and description entries.
-    void exportGoods(const QString &code, const exchange::FieldValues &values,
-                     const QString &description, const GoodsOptions &options);
-
-    // --- Steps of exportDocs() --------------------------------------------------------------
-
-    void exportPartner(const QDomElement &partner);
-    void exportOrderHead(const QDomNode &doc, int documentType);
-
-    /// False if the document has no lines.
-    bool exportOrderLines(const QDomNode &doc, bool withGoods);
+    PathIndex::Path buildPath(PathIndex &index, const QString &id);
 };

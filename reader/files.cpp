@@ -2,15 +2,8 @@
 #include "job/console.h"
 #include "reader/commxmlreader.h"
 #include "reader/sourceparser.h"
-#include "reader/vocabulary.h"
 
 #include <QCoreApplication>
-
-CommXmlReader::CommXmlReader()
-    : groupIndex({commerceml::idElement, {}}),
-      categoryIndex({QStringLiteral("category"), QStringLiteral("id")})
-{
-}
 
 CommXmlReader::~CommXmlReader()
 {
@@ -67,7 +60,7 @@ bool CommXmlReader::openOutput()
     }
     outputStream.setDevice(&outputFile);
     outputStream.setCodec("UTF-8");
-    writeLine(exchange::fileHeader);
+    writer.begin();
     return true;
 }
 

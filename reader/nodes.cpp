@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "reader/commxmlreader.h"
-#include "reader/text.h"
+#include "reader/tree.h"
 
 QString CommXmlReader::directText(const QDomNode &node)
 {

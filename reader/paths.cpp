@@ -1,12 +1,23 @@
 // SPDX-License-Identifier: MIT
 #include "reader/commxmlreader.h"
-#include "reader/text.h"
+#include "reader/tree.h"
 #include "reader/vocabulary.h"
 
 using namespace commerceml;
 
+namespace
+{
+
+/// Not only groups bear ids: the element that comes first in a section ends the path.
+PathIndex::Keyed whatHasId(const QDomElement &element)
+{
+    if (element.tagName() != idElement)
+        return {};
+    return {textOf(element), element.parentNode()};
+}
+
 /// The group that holds `group` among its subgroups; null for a group at the top.
-static QDomNode parentGroup(const QDomNode &group)
+QDomNode parentGroup(const QDomNode &group)
 {
     const QDomNode list = group.parentNode();
     const QDomNode parent = list.parentNode();
@@ -14,14 +25,24 @@ static QDomNode parentGroup(const QDomNode &group)
                                                                                  : QDomNode();
 }
 
-static AncestorPaths::Step groupStep(const QDomNode &group, int /*section*/)
+PathIndex::Step groupStep(const QDomNode &group)
 {
     const QDomElement name = group.firstChildElement(nameElement);
     return {name.isNull() ? std::nullopt : std::optional(textOf(name)), parentGroup(group)};
 }
 
+} // namespace
+
+const PathIndex::Kind CommXmlReader::groupPaths = {whatHasId, groupStep, true};
+
+PathIndex::Path CommXmlReader::buildPath(PathIndex &index, const QString &id)
+{
+    const PathIndex::Path path = index.path(groups, id);
+    pathBuffer = path.text;
+    return path;
+}
+
 QString CommXmlReader::groupPath(const QString &id)
 {
-    pathBuffer = groupIndex.path(groups, id, groupStep);
-    return pathBuffer;
+    return buildPath(groupIndex, id).text;
 }

@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
+#include "export/commerceml/goods.h"
+#include "export/commerceml/walks.h"
 #include "reader/commxmlreader.h"
-#include "reader/text.h"
+#include "reader/tree.h"
 #include "reader/vocabulary.h"
 
 #include <algorithm>
 #include <iterator>
 
 using namespace commerceml;
+using namespace exporter;
 
 namespace
 {
@@ -22,6 +25,15 @@ const PartnerRole partnerRoles[] = {
     {0, QStringLiteral("Продавец")},
 };
 
+bool isWanted(const QDomElement &partner, int documentType)
+{
+    const QDomElement role = partner.firstChildElement(QStringLiteral("Роль"));
+    const auto *wanted =
+        std::find_if(std::begin(partnerRoles), std::end(partnerRoles),
+                     [=](const PartnerRole &r) { return r.documentType == documentType; });
+    return wanted == std::end(partnerRoles) || role.isNull() || textOf(role) == wanted->role;
+}
+
 /// The partner of a document; null if it has none. Only the first two partners are looked at: the
 /// second one is taken, whatever its role, where the first has a role that is not the wanted one.
 QDomElement choosePartner(const QDomNode &doc, int documentType)
@@ -29,33 +41,44 @@ QDomElement choosePartner(const QDomNode &doc, int documentType)
     const QString partnerElement = QStringLiteral("Контрагент");
     const QDomElement first =
         doc.firstChildElement(QStringLiteral("Контрагенты")).firstChildElement(partnerElement);
-    const QDomElement role = first.firstChildElement(QStringLiteral("Роль"));
-    const auto *wanted =
-        std::find_if(std::begin(partnerRoles), std::end(partnerRoles),
-                     [=](const PartnerRole &r) { return r.documentType == documentType; });
-    if (wanted == std::end(partnerRoles) || role.isNull() || textOf(role) == wanted->role)
-        return first;
-    return first.nextSiblingElement(partnerElement);
+    return isWanted(first, documentType) ? first : first.nextSiblingElement(partnerElement);
 }
 
 } // namespace
+
+bool commerceml::exportDocs(const QList<QDomNode> &docs, const Export &to, bool withGoods,
+                            int documentType)
+{
+    const FieldTable goodsFields = orderGoodsFields(to.path);
+    for (auto doc = docs.cbegin(); doc != docs.cend(); ++doc) {
+        const QDomElement element = doc->toElement();
+        const QDomElement partner = choosePartner(element, documentType);
+        if (partner.firstChildElement(idElement).isNull()) {
+            to.leftOut(ItemKind::Order, element, Loss::NoPartner);
+            continue;
+        }
+        if (to.observer != nullptr && !isWanted(partner, documentType))
+            to.doubted(partner, Doubt::OtherRole);
+        exportPartner(partner, to);
+
+        if (element.firstChildElement(numberElement).isNull()) {
+            to.leftOut(ItemKind::Order, element, Loss::NoNumber);
+            continue;
+        }
+        exportOrderHead(element, to, documentType);
+        if (!exportOrderLines(element, to, withGoods, goodsFields)) {
+            to.leftOut(ItemKind::Order, element, Loss::NoLines);
+            for (++doc; doc != docs.cend(); ++doc)
+                to.leftOut(ItemKind::Order, doc->toElement(), Loss::BehindTheEnd);
+            return false;
+        }
+    }
+    return true;
+}
 
 bool CommXmlReader::exportDocs(bool withGoods, int documentType)
 {
     if (docs.isEmpty() || !outputEnabled || !outputFile.isOpen())
         return false;
-
-    for (const QDomNode &doc : qAsConst(docs)) {
-        const QDomElement partner = choosePartner(doc, documentType);
-        if (partner.firstChildElement(idElement).isNull())
-            continue;
-        exportPartner(partner);
-
-        if (doc.firstChildElement(numberElement).isNull())
-            continue;
-        exportOrderHead(doc, documentType);
-        if (!exportOrderLines(doc, withGoods))
-            return false;
-    }
-    return true;
+    return commerceml::exportDocs(docs, exportTo(writer, groupIndex), withGoods, documentType);
 }

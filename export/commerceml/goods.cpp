@@ -1,19 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "export/commerceml/goods.h"
 
-#include "reader/commxmlreader.h"
-#include "reader/text.h"
 #include "reader/vocabulary.h"
 
-using namespace commerceml;
 using namespace exchange;
+using namespace exporter;
+
+namespace commerceml
+{
 
 /// The path of the first group that a good names.
-static std::optional<QString> pathOfFirstGroup(CommXmlReader &reader,
-                                               const QDomElement &goodsGroups)
+static Reading pathOfFirstGroup(const Reading &path)
 {
-    const QDomElement id = goodsGroups.firstChildElement(idElement);
-    return id.isNull() ? std::nullopt : unlessEmpty(reader.groupPath(textOf(id)));
+    return [path](const QDomElement &goodsGroups) -> std::optional<QString> {
+        const QDomElement id = goodsGroups.firstChildElement(idElement);
+        return id.isNull() ? std::nullopt : path(id);
+    };
 }
 
 static const QString articleElement = QStringLiteral("Артикул");
@@ -21,41 +23,56 @@ static const QString barcodeElement = QStringLiteral("Штрихкод");
 static const QString unitElement = QStringLiteral("БазоваяЕдиница");
 
 /// Catalogues and price packages differ in how a name is cleaned for the goods row.
-static FieldTable goodsFields(Cleaning nameCleaning)
+static FieldTable goodsFields(Cleaning nameCleaning, const Reading &path)
 {
     return {
         {articleElement, fullText, target::article, withoutTabs},
         {nameElement, fullText, target::name, nameCleaning},
         {barcodeElement, fullText, target::barcode, withoutTabs},
-        {groupsElement, pathOfFirstGroup, target::group},
+        {groupsElement, pathOfFirstGroup(path), target::group},
         {unitElement, ownText, target::unit},
     };
 }
 
-const FieldTable &catalogueGoodsFields()
+FieldTable catalogueGoodsFields(const Reading &path)
 {
-    static const FieldTable table = goodsFields(withoutTabs);
-    return table;
+    return goodsFields(withoutTabs, path);
 }
 
-const FieldTable &offerFields()
+FieldTable packageOfferFields(const Reading &path)
 {
-    static const FieldTable table = goodsFields(withoutBrackets);
-    return table;
+    return goodsFields(withoutBrackets, path);
 }
 
-const FieldTable &orderGoodsFields()
+FieldTable orderGoodsFields(const Reading &path)
 {
-    static const FieldTable table = {
-        {articleElement, fullText, {target::article.rowCode, {}}, withoutTabs},
+    return {
+        {articleElement, fullText, rowOnly(target::article.rowCode), withoutTabs},
         {nameElement, fullText, target::name, withoutBrackets, simplified},
-        {groupsElement, pathOfFirstGroup, target::group},
+        {groupsElement, pathOfFirstGroup(path), target::group},
         {unitElement, ownText, target::unit},
     };
-    return table;
 }
 
-QString goodsDescription(const ChildLookup &goods)
+void exportGoods(const QList<QDomNode> &sections, const GoodsPlace &place, const Export &to,
+                 const GoodsOptions &options,
+                 const std::function<FieldValues(const ChildLookup &goods)> &read)
 {
-    return textOf(goods.first(QStringLiteral("Описание")));
+    for (const QDomNode &section : sections) {
+        const QDomElement list = section.firstChildElement(place.list);
+        for (const QDomElement &element : ChildElements(list, place.element)) {
+            const ChildLookup goods(element);
+            const QDomElement id = goods.first(idElement);
+            if (id.isNull()) {
+                to.leftOut(place.kind, element, Loss::NoCode);
+                continue;
+            }
+            Item item = {place.kind, element, textOf(id), read(goods), {}};
+            if (options.withDescription)
+                item.text = textOf(goods.first(QStringLiteral("Описание")));
+            to.goods(item, options);
+        }
+    }
 }
+
+} // namespace commerceml

@@ -1,19 +1,39 @@
 // SPDX-License-Identifier: MIT
 //
 // What is read of a good in CommerceML. A good stands in catalogues, price packages and orders, and
-// each kind of section has a table of its own.
+// each kind of section has a table of its own. `path` tells the path of the group that an "Ид"
+// names.
 #pragma once
 
-#include "export/fields.h"
+#include "export/export.h"
+
+#include <QDomNode>
+#include <QList>
+
+#include <functional>
+
+namespace commerceml
+{
 
 /// A "Товар" of a "Каталог".
-const FieldTable &catalogueGoodsFields();
+exporter::FieldTable catalogueGoodsFields(const exporter::Reading &path);
 
 /// A "Предложение" of a "ПакетПредложений", its prices excepted.
-const FieldTable &offerFields();
+exporter::FieldTable packageOfferFields(const exporter::Reading &path);
 
 /// A "Товар" of a "Документ".
-const FieldTable &orderGoodsFields();
+exporter::FieldTable orderGoodsFields(const exporter::Reading &path);
 
-/// The description of a good or an offer; empty if it has none.
-QString goodsDescription(const ChildLookup &goods);
+/// Where goods stand in a section.
+struct GoodsPlace {
+    QString list; ///< the element that holds them, the first of its name
+    QString element;
+    exporter::ItemKind kind;
+};
+
+/// Exports the goods of sections, each with the values that `read` gives.
+void exportGoods(const QList<QDomNode> &sections, const GoodsPlace &place,
+                 const exporter::Export &to, const exporter::GoodsOptions &options,
+                 const std::function<exchange::FieldValues(const ChildLookup &goods)> &read);
+
+} // namespace commerceml

@@ -1,26 +1,23 @@
 // SPDX-License-Identifier: MIT
 #include "export/commerceml/goods.h"
-#include "reader/childelements.h"
+#include "export/commerceml/walks.h"
 #include "reader/commxmlreader.h"
-#include "reader/text.h"
+#include "reader/tree.h"
 #include "reader/vocabulary.h"
 
-using namespace commerceml;
-using namespace exchange;
+using namespace exporter;
+
+void commerceml::exportKatalogs(const QList<QDomNode> &katalogs, const Export &to,
+                                const GoodsOptions &options)
+{
+    const FieldTable fields = catalogueGoodsFields(to.path);
+    exportGoods(katalogs, {goodsListElement, goodsElement, ItemKind::Good}, to, options,
+                [&](const ChildLookup &goods) { return readFields(goods, fields); });
+}
 
 bool CommXmlReader::exportKatalogs(bool prefixRows, bool withDescription, bool markHtml)
 {
-    const GoodsOptions options{prefixRows, markHtml ? HtmlMark::Html : HtmlMark::None};
-    for (const QDomNode &katalog : qAsConst(katalogs)) {
-        const QDomElement list = katalog.firstChildElement(goodsListElement);
-        for (const QDomElement &element : ChildElements(list, goodsElement)) {
-            const ChildLookup goods(element);
-            const QDomElement id = goods.first(idElement);
-            if (id.isNull())
-                continue;
-            exportGoods(textOf(id), readFields(*this, goods, catalogueGoodsFields()),
-                        withDescription ? goodsDescription(goods) : QString(), options);
-        }
-    }
+    commerceml::exportKatalogs(katalogs, exportTo(writer, groupIndex),
+                               catalogueOptions(prefixRows, withDescription, markHtml));
     return !katalogs.isEmpty();
 }

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "export/fields.h"
-#include "reader/childelements.h"
-#include "reader/commxmlreader.h"
-#include "reader/text.h"
+#include "export/commerceml/walks.h"
 #include "reader/vocabulary.h"
 
 using namespace commerceml;
 using namespace exchange;
+using namespace exporter;
 
 namespace
 {
@@ -17,32 +15,30 @@ QString withoutHyphens(QString text)
 }
 
 const FieldTable orderFields = {
-    {QStringLiteral("Дата"), fullText, {{}, "date:"_l1}, unchanged, withoutHyphens},
-    {QStringLiteral("Комментарий"), filledText, {{}, "note:"_l1}, unchanged, simplified},
+    {QStringLiteral("Дата"), fullText, lineOnly("date:"_l1), unchanged, withoutHyphens},
+    {QStringLiteral("Комментарий"), filledText, lineOnly("note:"_l1), unchanged, simplified},
 };
 
 const QString statusRequisite = QStringLiteral("Статус заказа");
 
 } // namespace
 
-void CommXmlReader::exportOrderHead(const QDomNode &doc, int documentType)
+void commerceml::exportOrderHead(const QDomElement &doc, const Export &to, int documentType)
 {
-    writeLine(orderBlock.begin);
-    writeLine("number:"_l1, textOf(doc.firstChildElement(numberElement)));
-    writeLine("type:"_l1, QString::number(documentType));
-    writeFields(readFields(*this, ChildLookup(doc), orderFields));
+    const ChildLookup head(doc);
+    Item order = {ItemKind::Order, doc, textOf(head.first(numberElement)), {}, {}};
+    order.values = FieldValues{{lineOnly("type:"_l1), {}, QString::number(documentType)}} +
+                   readFields(head, orderFields);
 
-    QString requisitesText;
-    const QDomElement list = doc.firstChildElement(QStringLiteral("ЗначенияРеквизитов"));
+    const QDomElement list = head.first(QStringLiteral("ЗначенияРеквизитов"));
     for (const QDomElement &requisite : ChildElements(list, QStringLiteral("ЗначениеРеквизита"))) {
         const QString name = textOf(requisite.firstChildElement(nameElement));
         const QString value = textOf(requisite.firstChildElement(valueElement));
         if (name.isEmpty() || value.isEmpty())
             continue;
         if (name == statusRequisite)
-            writeLine("status:"_l1, value);
-        requisitesText += name + ": "_l1 + value + QLatin1Char('\n');
+            order.values.append({lineOnly("status:"_l1), {}, value});
+        order.text += name + ": "_l1 + value + QLatin1Char('\n');
     }
-    writeText(requisitesText);
-    writeLine(orderBlock.end);
+    to.item(order);
 }

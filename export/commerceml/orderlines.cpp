@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "export/commerceml/goods.h"
-#include "reader/childelements.h"
+#include "export/commerceml/walks.h"
 #include "reader/commxmlreader.h"
-#include "reader/text.h"
+#include "reader/tree.h"
 #include "reader/vocabulary.h"
 
 using namespace commerceml;
 using namespace exchange;
+using namespace exporter;
 
 namespace
 {
@@ -14,8 +15,8 @@ namespace
 const QString quantityElement = QStringLiteral("Количество");
 
 const FieldTable itemFields = {
-    {quantityElement, fullText, {{}, "qty:"_l1}},
-    {unitPriceElement, fullText, {{}, priceKey}},
+    {quantityElement, fullText, lineOnly("qty:"_l1)},
+    {unitPriceElement, fullText, lineOnly(priceKey)},
 };
 
 ChildElements orderLines(const QDomNode &doc)
@@ -25,24 +26,27 @@ ChildElements orderLines(const QDomNode &doc)
 
 } // namespace
 
-bool CommXmlReader::exportOrderLines(const QDomNode &doc, bool withGoods)
+bool commerceml::exportOrderLines(const QDomElement &doc, const Export &to, bool withGoods,
+                                  const FieldTable &goodsFields)
 {
     const ChildElements lines = orderLines(doc);
     if (lines.isEmpty())
         return false;
     for (const QDomElement &element : lines) {
         const ChildLookup line(element);
+        QString code;
         if (withGoods) {
             const QDomElement id = line.first(idElement);
-            if (id.isNull())
+            if (id.isNull()) {
+                to.leftOut(ItemKind::OrderLine, element, Loss::NoCode);
                 continue;
-            writeGoods(textOf(id), readFields(*this, line, orderGoodsFields()));
+            }
+            code = textOf(id);
+            to.item({ItemKind::OrderGood, element, code, readFields(line, goodsFields), {}});
         }
-        writeLine(itemBlock.begin);
-        writeFields(readFields(*this, line, itemFields));
-        writeLine(itemBlock.end);
+        to.item({ItemKind::OrderLine, element, code, readFields(line, itemFields), {}});
     }
-    writeLine(closeOrder);
+    to.writer.writeLine(closeOrder);
     return true;
 }
 
@@ -52,6 +56,8 @@ bool CommXmlReader::collectDocumentRows(bool withGoods)
     if (lines.isEmpty())
         return false;
     constexpr bool prefixed = true;
+    const FieldTable goodsFields = orderGoodsFields(
+        [this](const QDomElement &id) { return unlessEmpty(groupPath(textOf(id))); });
     for (const QDomElement &element : lines) {
         const ChildLookup line(element);
         QString code;
@@ -60,7 +66,7 @@ bool CommXmlReader::collectDocumentRows(bool withGoods)
             if (id.isNull())
                 continue;
             code = textOf(id);
-            const FieldValues values = readFields(*this, line, orderGoodsFields());
+            const FieldValues values = readFields(line, goodsFields);
             goodsRows.append(goodsRow(code, prefixed, values));
         }
         // The quantity brings its tab along: without it the price takes its place.

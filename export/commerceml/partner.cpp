@@ -1,8 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "export/fields.h"
-#include "reader/childelements.h"
-#include "reader/commxmlreader.h"
-#include "reader/text.h"
+#include "export/commerceml/walks.h"
 #include "reader/vocabulary.h"
 
 #include <algorithm>
@@ -10,30 +7,27 @@
 
 using namespace commerceml;
 using namespace exchange;
+using namespace exporter;
 
 namespace
 {
 
 /// An address as one text.
-std::optional<QString> presentation(CommXmlReader &, const QDomElement &address)
+std::optional<QString> presentation(const QDomElement &address)
 {
     const QDomElement text = address.firstChildElement(QStringLiteral("Представление"));
     return text.isNull() ? std::nullopt : std::optional(textOf(text));
 }
 
 const FieldTable partnerFields = {
-    {idElement, fullText, {{}, codeKey}},
-    {nameElement, fullText, {{}, nameKey}},
-    {QStringLiteral("ПолноеНаименование"), fullText, {{}, "fullname:"_l1}},
-    {QStringLiteral("ИНН"), fullText, {{}, "inn:"_l1}},
-    {QStringLiteral("КПП"), fullText, {{}, "kpp:"_l1}},
-    {QStringLiteral("ОКПО"), fullText, {{}, "okpo:"_l1}},
-    {QStringLiteral("АдресРегистрации"),
-     presentation,
-     {{}, "address_legal:"_l1},
-     unchanged,
+    {nameElement, fullText, lineOnly(nameKey)},
+    {QStringLiteral("ПолноеНаименование"), fullText, lineOnly("fullname:"_l1)},
+    {QStringLiteral("ИНН"), fullText, lineOnly("inn:"_l1)},
+    {QStringLiteral("КПП"), fullText, lineOnly("kpp:"_l1)},
+    {QStringLiteral("ОКПО"), fullText, lineOnly("okpo:"_l1)},
+    {QStringLiteral("АдресРегистрации"), presentation, lineOnly("address_legal:"_l1), unchanged,
      simplified},
-    {QStringLiteral("Адрес"), presentation, {{}, "address_actual:"_l1}, unchanged, simplified},
+    {QStringLiteral("Адрес"), presentation, lineOnly("address_actual:"_l1), unchanged, simplified},
 };
 
 const QString mailType = QStringLiteral("Почта");
@@ -62,9 +56,9 @@ FieldValues readContacts(const QDomElement &partner)
             continue;
         const QString type = textOf(contact.firstChildElement(QStringLiteral("Тип")));
         if (type == mailType) {
-            values.append({{{}, "email:"_l1}, {}, textOf(value)});
+            values.append({lineOnly("email:"_l1), {}, textOf(value)});
         } else if (std::count(std::begin(phoneTypes), std::end(phoneTypes), type) > 0) {
-            values.append({{{}, *phoneKey}, {}, textOf(value)});
+            values.append({lineOnly(*phoneKey), {}, textOf(value)});
             if (phoneKey != std::end(phoneKeys) - 1)
                 ++phoneKey;
         }
@@ -74,10 +68,11 @@ FieldValues readContacts(const QDomElement &partner)
 
 } // namespace
 
-void CommXmlReader::exportPartner(const QDomElement &partner)
+void commerceml::exportPartner(const QDomElement &partner, const Export &to)
 {
-    writeLine(partnerBlock.begin);
-    writeFields(readFields(*this, ChildLookup(partner), partnerFields));
-    writeFields(readContacts(partner));
-    writeLine(partnerBlock.end);
+    to.item({ItemKind::Partner,
+             partner,
+             textOf(partner.firstChildElement(idElement)),
+             readFields(ChildLookup(partner), partnerFields) + readContacts(partner),
+             {}});
 }

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "export/commerceml/goods.h"
-#include "reader/childelements.h"
+#include "export/commerceml/walks.h"
 #include "reader/commxmlreader.h"
-#include "reader/text.h"
+#include "reader/tree.h"
 #include "reader/vocabulary.h"
 
 #include <algorithm>
@@ -12,6 +12,7 @@
 
 using namespace commerceml;
 using namespace exchange;
+using namespace exporter;
 
 namespace
 {
@@ -32,20 +33,26 @@ bool isHigher(double left, double right)
 
 /// The prices of an offer: each by its position for the goods row, then the highest for the
 /// exchange file.
-FieldValues readPrices(const ChildLookup &offer, std::optional<double> factor)
+FieldValues readPrices(const Export &to, const ChildLookup &offer, std::optional<double> factor)
 {
     FieldValues values;
     QVector<double> numbers;
     const auto *rowCode = std::begin(priceRowCodes);
+    bool isDropped = false;
     const QDomElement list = offer.first(QStringLiteral("Цены"));
     for (const QDomElement &price : ChildElements(list, QStringLiteral("Цена"))) {
-        if (rowCode == std::end(priceRowCodes))
+        if (rowCode == std::end(priceRowCodes)) {
+            isDropped = true;
             break;
+        }
         const QDomElement unitPrice = price.firstChildElement(unitPriceElement);
         if (!unitPrice.isNull()) {
             const QString text = textOf(unitPrice);
-            values.append({{*rowCode, {}}, priceText(text, factor), {}});
-            numbers.append(priceNumber(text) * factor.value_or(1.0));
+            const Price read = readPrice(text, factor);
+            if (!read.isNumber)
+                to.doubted(unitPrice, Doubt::PriceNoNumber);
+            values.append({rowOnly(*rowCode), read.text, {}});
+            numbers.append(read.number);
         }
         ++rowCode;
     }
@@ -53,15 +60,30 @@ FieldValues readPrices(const ChildLookup &offer, std::optional<double> factor)
     std::sort(numbers.begin(), numbers.end(), isHigher);
     const auto *key = std::begin(priceKeys);
     for (const double number : qAsConst(numbers)) {
-        if (key == std::end(priceKeys))
+        if (key == std::end(priceKeys)) {
+            isDropped = true;
             break;
-        values.append({{{}, *key}, {}, priceFormat(number)});
+        }
+        values.append({lineOnly(*key), {}, priceFormat(number)});
         ++key;
     }
+    if (isDropped)
+        to.doubted(list, Doubt::PricesDropped);
     return values;
 }
 
 } // namespace
+
+void commerceml::exportPrices(const QList<QDomNode> &prices, const Export &to,
+                              const GoodsOptions &options)
+{
+    const FieldTable fields = packageOfferFields(to.path);
+    exportGoods(prices,
+                {QStringLiteral("Предложения"), QStringLiteral("Предложение"), ItemKind::Offer}, to,
+                options, [&](const ChildLookup &offer) {
+                    return readFields(offer, fields) + readPrices(to, offer, options.priceFactor);
+                });
+}
 
 bool CommXmlReader::exportPrices(bool prefixRows, bool withDescription, bool markHtml,
                                  bool extendedOffers, bool applyFactor, double priceFactor)
@@ -70,19 +92,8 @@ bool CommXmlReader::exportPrices(bool prefixRows, bool withDescription, bool mar
         return exportYmlOffers(prefixRows, withDescription, markHtml, extendedOffers, applyFactor,
                                priceFactor);
 
-    const GoodsOptions options{prefixRows, markHtml ? HtmlMark::Html : HtmlMark::PlainText};
-    const std::optional<double> factor = applyFactor ? std::optional(priceFactor) : std::nullopt;
-    for (const QDomNode &package : qAsConst(prices)) {
-        const QDomElement list = package.firstChildElement(QStringLiteral("Предложения"));
-        for (const QDomElement &element : ChildElements(list, QStringLiteral("Предложение"))) {
-            const ChildLookup offer(element);
-            const QDomElement id = offer.first(idElement);
-            if (id.isNull())
-                continue;
-            exportGoods(textOf(id),
-                        readFields(*this, offer, offerFields()) + readPrices(offer, factor),
-                        withDescription ? goodsDescription(offer) : QString(), options);
-        }
-    }
+    commerceml::exportPrices(
+        prices, exportTo(writer, groupIndex),
+        offerOptions(prefixRows, withDescription, markHtml, applyFactor, priceFactor));
     return !prices.isEmpty();
 }

@@ -1,15 +1,30 @@
 // SPDX-License-Identifier: MIT
 #include "reader/commxmlreader.h"
-#include "reader/text.h"
+#include "reader/tree.h"
+
+namespace
+{
+
+PathIndex::Keyed categoryWithId(const QDomElement &element)
+{
+    if (element.tagName() != QLatin1String("category"))
+        return {};
+    const QDomNode id = element.attributes().namedItem(QStringLiteral("id"));
+    return id.isNull() ? PathIndex::Keyed() : PathIndex::Keyed{id.nodeValue(), element};
+}
+
+PathIndex::Step categoryStep(const QDomNode &category)
+{
+    const QString parent = CommXmlReader::attributeValue(category, QStringLiteral("parentId"));
+    const bool isTop = parent.isNull() || parent == QLatin1String("0");
+    return {textOf(category), {}, isTop ? std::nullopt : std::optional(parent)};
+}
+
+} // namespace
+
+const PathIndex::Kind CommXmlReader::categoryPaths = {categoryWithId, categoryStep, false};
 
 QString CommXmlReader::ymlCategoryPath(const QString &id)
 {
-    const auto step = [&](const QDomNode &category, int section) {
-        const QString parent = attributeValue(category, QStringLiteral("parentId"));
-        const bool isTop = parent.isNull() || parent == QLatin1String("0");
-        return AncestorPaths::Step{textOf(category),
-                                   isTop ? QDomNode() : categoryIndex.findIn(section, parent)};
-    };
-    pathBuffer = categoryIndex.path(groups, id, step);
-    return pathBuffer;
+    return buildPath(categoryIndex, id).text;
 }

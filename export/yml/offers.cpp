@@ -1,30 +1,30 @@
 // SPDX-License-Identifier: MIT
-#include "export/fields.h"
+#include "export/yml/offers.h"
+
 #include "export/yml/displayname.h"
-#include "reader/childelements.h"
 #include "reader/commxmlreader.h"
-#include "reader/text.h"
 
 using namespace exchange;
+using namespace exporter;
 
 namespace
 {
 
-std::optional<QString> categoryPath(CommXmlReader &reader, const QDomElement &categoryId)
-{
-    return unlessEmpty(reader.ymlCategoryPath(textOf(categoryId)));
-}
-
-std::optional<QString> shownName(CommXmlReader &, const QDomElement &name)
+std::optional<QString> shownName(const QDomElement &name)
 {
     return displayName(textOf(name));
 }
 
 /// The fields of an "offer". Prices are multiplied by `factor`, if there is one.
-FieldTable offerFields(bool extended, std::optional<double> factor)
+FieldTable offerFields(const Export &to, bool extended, std::optional<double> factor)
 {
-    const Reading price = [factor](CommXmlReader &, const QDomElement &element) {
-        return withoutTabs(priceText(textOf(element), factor));
+    const Reading price = [&to, factor](const QDomElement &element) {
+        if (!factor)
+            return withoutTabs(textOf(element));
+        const Price read = readPrice(textOf(element), factor);
+        if (!read.isNumber)
+            to.doubted(element, Doubt::PriceNoNumber);
+        return withoutTabs(read.text);
     };
     const QString name = QStringLiteral("name");
     const Target typePrefix{"DP7"_l1, "DP7:"_l1};
@@ -45,7 +45,7 @@ FieldTable offerFields(bool extended, std::optional<double> factor)
     };
     const FieldTable tradeFields = {
         {QStringLiteral("barcode"), fullText, target::barcode, withoutTabs, withoutTabs},
-        {QStringLiteral("categoryId"), categoryPath, target::group},
+        {QStringLiteral("categoryId"), to.path, target::group},
         {QStringLiteral("price"), price, priceTarget},
         {QStringLiteral("vendor"), fullText, vendor, withoutTabs, withoutTabs},
     };
@@ -75,34 +75,43 @@ bool isSoldOut(const ChildLookup &offer)
 
 } // namespace
 
+void yml::exportOffers(const QList<QDomNode> &prices, const Export &to, const GoodsOptions &options,
+                       bool extended, QList<PictureLink> &pictures)
+{
+    const FieldTable fields = offerFields(to, extended, options.priceFactor);
+    const QString piece = QStringLiteral("шт"); // no element tells the unit
+
+    for (const QDomNode &section : prices) {
+        for (const QDomElement &element : ChildElements(section, QStringLiteral("offer"))) {
+            const QString code = CommXmlReader::attributeValue(element, QStringLiteral("id"));
+            if (code.isEmpty()) {
+                to.leftOut(ItemKind::Offer, element, Loss::NoCode);
+                continue;
+            }
+            const ChildLookup offer(element);
+            const bool soldOut = extended && isSoldOut(offer);
+            Item item = {ItemKind::Offer, element, code, readFields(offer, fields), {}};
+            if (soldOut)
+                to.doubted(element, Doubt::SoldOut);
+            else if (extended)
+                item.values.append({target::unit, piece, piece});
+            if (options.withDescription && !soldOut)
+                item.text = description(offer);
+            to.goods(item, options, !soldOut);
+
+            const QDomElement picture = offer.first(QStringLiteral("picture"));
+            if (!picture.isNull())
+                pictures.append({code, withoutTabs(textOf(picture))});
+        }
+    }
+}
+
 bool CommXmlReader::exportYmlOffers(bool prefixRows, bool withDescription, bool markHtml,
                                     bool extendedOffers, bool applyFactor, double priceFactor)
 {
     pictureLinks.clear();
-    const GoodsOptions options{prefixRows, markHtml ? HtmlMark::Html : HtmlMark::PlainText};
-    const FieldTable fields =
-        offerFields(extendedOffers, applyFactor ? std::optional(priceFactor) : std::nullopt);
-    const QString piece = QStringLiteral("шт"); // no element tells the unit
-
-    for (const QDomNode &section : qAsConst(prices)) {
-        for (const QDomElement &element : ChildElements(section, QStringLiteral("offer"))) {
-            const QString code = attributeValue(element, QStringLiteral("id"));
-            if (code.isEmpty())
-                continue;
-            const ChildLookup offer(element);
-            FieldValues values = readFields(*this, offer, fields);
-            if (extendedOffers && isSoldOut(offer)) {
-                writeGoods(code, values);
-            } else {
-                if (extendedOffers)
-                    values.append({target::unit, piece, piece});
-                exportGoods(code, values, withDescription ? description(offer) : QString(),
-                            options);
-            }
-            const QDomElement picture = offer.first(QStringLiteral("picture"));
-            if (!picture.isNull())
-                pictureLinks.append({code, withoutTabs(textOf(picture))});
-        }
-    }
+    yml::exportOffers(prices, exportTo(writer, categoryIndex),
+                      offerOptions(prefixRows, withDescription, markHtml, applyFactor, priceFactor),
+                      extendedOffers, pictureLinks);
     return !prices.isEmpty();
 }

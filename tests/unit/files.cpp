@@ -94,9 +94,11 @@ private slots:
     {
 #ifdef Q_OS_UNIX
         Probe probe("<r><Каталог><Товары><Товар><Ид>1</Ид></Товар></Товары></Каталог></r>");
+        QCryptographicHash digest(QCryptographicHash::Sha256);
         const auto linesOf = [&](const QString &name, rlim_t largest) {
             probe.outputFileName = name;
             probe.outputEnabled = true;
+            probe.writer.digest = &digest;
             const rlimit limit = {largest, RLIM_INFINITY};
             setrlimit(RLIMIT_FSIZE, &limit);
             probe.openOutput();
@@ -111,8 +113,16 @@ private slots:
         std::signal(SIGXFSZ, SIG_IGN);
         const QByteArray lines = "Ryk data for exchange\n##goods\ncode:1\n##endgoods\n";
         QCOMPARE(linesOf(folder.filePath("torn.txt"), 32), lines.left(32));
+        QVERIFY(probe.writer.hasFailed());
+        QCOMPARE(probe.writer.size(), 30); // of the lines that are whole
         QCOMPARE(linesOf(folder.filePath("empty.txt"), 0), QByteArray());
-        QCOMPARE(linesOf(folder.filePath("whole.txt"), RLIM_INFINITY), lines + lines.mid(22));
+
+        const QByteArray whole = lines + lines.mid(22);
+        digest.reset();
+        QCOMPARE(linesOf(folder.filePath("whole.txt"), RLIM_INFINITY), whole);
+        QVERIFY(!probe.writer.hasFailed());
+        QCOMPARE(probe.writer.size(), whole.size());
+        QCOMPARE(digest.result(), QCryptographicHash::hash(whole, QCryptographicHash::Sha256));
 #else
         QSKIP("nothing here limits the size of a file");
 #endif

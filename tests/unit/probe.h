@@ -52,6 +52,7 @@ public:
     using CommXmlReader::pathBuffer;
     using CommXmlReader::rootElement;
     using CommXmlReader::sourceFile;
+    using CommXmlReader::writer;
 
     Probe() = default;
     explicit Probe(const QString &xml)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "reader/text.h"
+#include "reader/tree.h"
 
 static void appendTexts(QString &text, const QDomNode &parent)
 {

@@ -4,7 +4,7 @@
 #include <QRandomGenerator>
 
 /// Paths by the plain searches, on random trees: the paths of the reader must be the same.
-class SectionIndexTest : public QObject
+class PathIndexTest : public QObject
 {
     Q_OBJECT
 
@@ -98,23 +98,7 @@ private slots:
         }
         QVERIFY(filled > 1000);
     }
-
-    void keysOfOneHash()
-    {
-        const auto name = [](const QDomNode &parent, int section) {
-            return AncestorPaths::Step{QString::number(section) + parent.nodeName(), {}};
-        };
-        // Without a base only the last character counts.
-        SectionIndex index({"Ид", {}}, 0);
-        const Probe probe("<r><Классификатор><a><Ид>0</Ид></a><b><Ид>10</Ид></b>"
-                          "<c><Ид>0</Ид></c><d><Ид>20</Ид></d></Классификатор></r>");
-        QCOMPARE(index.path(probe.groups, "0", name), QString("0a"));
-        QCOMPARE(index.path(probe.groups, "10", name), QString("0b"));
-        QCOMPARE(index.path(probe.groups, "20", name), QString("0d"));
-        QCOMPARE(index.path(probe.groups, "30", name), QString());
-        QCOMPARE(index.findIn(0, "20").parentNode().nodeName(), QString("d"));
-    }
 };
 
-QTEST_APPLESS_MAIN(SectionIndexTest)
-#include "sectionindex.moc"
+QTEST_APPLESS_MAIN(PathIndexTest)
+#include "pathindex.moc"

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#include "exchange/writer.h"
+
+#include <QCryptographicHash>
+#include <QFileDevice>
+
+namespace exchange
+{
+
+void Writer::begin()
+{
+    failed = false;
+    written = 0;
+    constexpr int usualLine = 1'000;
+    line.reserve(usualLine);
+    writeLine(fileHeader);
+}
+
+void Writer::writeLine(QLatin1String key, const QString &value)
+{
+    if (file == nullptr || !*enabled || !file->isOpen() || failed)
+        return;
+    failed = true; // until all of the line is in the file, also where memory runs out on the way
+    line.resize(0);
+    line.append(key.data(), key.size());
+    line.append(value.toUtf8());
+    line.append('\n');
+    if (file->write(line) != line.size())
+        return;
+    failed = false;
+    written += line.size();
+    if (digest != nullptr)
+        digest->addData(line);
+}
+
+void Writer::writeFields(const FieldValues &values)
+{
+    for (const FieldValue &value : values) {
+        if (!value.target.key.isEmpty())
+            writeLine(value.target.key, value.lineText);
+    }
+}
+
+void Writer::writeText(const QString &text)
+{
+    if (text.isEmpty())
+        return;
+    writeLine(freeText.begin);
+    writeLine({}, text);
+    writeLine(freeText.end);
+}
+
+} // namespace exchange

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+//
+// The lines and blocks of the exchange file, on their way into it.
+#pragma once
+
+#include "exchange/format.h"
+
+#include <QByteArray>
+#include <QString>
+
+class QCryptographicHash;
+class QFileDevice;
+
+namespace exchange
+{
+
+/// Writes an exchange file, in UTF-8, each line at once: the file is readable up to its last line
+/// whatever ends the run.
+///
+/// Once a line could not be written, or memory ran out on the way, nothing is sent behind it.
+class Writer
+{
+public:
+    /// A writer whose lines go nowhere.
+    Writer() = default;
+
+    /// Lines go to `file` where that is open and `enabled` is true. Both outlive the writer.
+    Writer(QFileDevice &file, const bool &enabled) : file(&file), enabled(&enabled) {}
+
+    /// Writes the header of a file that has just been opened.
+    void begin();
+
+    /// A line of `key` and `value`.
+    void writeLine(QLatin1String key, const QString &value = QString());
+
+    /// A line for each of `values` that has a key.
+    void writeFields(const FieldValues &values);
+
+    /// `text` between its marker lines; nothing if it is empty.
+    void writeText(const QString &text);
+
+    /// Whether a line since begin() is not, or not whole, in the file.
+    bool hasFailed() const { return failed; }
+
+    /// The bytes of all lines since begin() that are in the file.
+    qint64 size() const { return written; }
+
+    QCryptographicHash *digest = nullptr; ///< if a host sets one, it gets the bytes of each line
+
+private:
+    QFileDevice *file = nullptr;
+    const bool *enabled = nullptr;
+    bool failed = false;
+    qint64 written = 0;
+    QByteArray line; // keeps its room
+};
+
+} // namespace exchange

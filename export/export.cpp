@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+#include "export/export.h"
+
+#include "reader/commxmlreader.h"
+#include "reader/tree.h"
+
+using namespace exchange;
+
+namespace exporter
+{
+
+GoodsOptions catalogueOptions(bool prefixRows, bool withDescription, bool markHtml)
+{
+    return {prefixRows, withDescription, markHtml ? HtmlMark::Html : HtmlMark::None};
+}
+
+GoodsOptions offerOptions(bool prefixRows, bool withDescription, bool markHtml, bool applyFactor,
+                          double priceFactor)
+{
+    return {prefixRows, withDescription, markHtml ? HtmlMark::Html : HtmlMark::PlainText,
+            applyFactor ? std::optional(priceFactor) : std::nullopt};
+}
+
+/// The form of a block.
+struct Form {
+    Block block;
+    QLatin1String codeKey; // of its first line; empty if it has no code
+};
+
+static Form formOf(ItemKind kind)
+{
+    switch (kind) {
+    case ItemKind::Good:
+    case ItemKind::Offer:
+    case ItemKind::OrderGood:
+        break;
+    case ItemKind::Partner:
+        return {partnerBlock, codeKey};
+    case ItemKind::Order:
+        return {orderBlock, "number:"_l1};
+    case ItemKind::OrderLine:
+        return {itemBlock, {}};
+    }
+    return {goodsBlock, codeKey};
+}
+
+void Export::item(const Item &item) const
+{
+    const Form form = formOf(item.kind);
+    writer.writeLine(form.block.begin);
+    if (!form.codeKey.isEmpty())
+        writer.writeLine(form.codeKey, item.code);
+    writer.writeFields(item.values);
+    writer.writeText(item.text);
+    writer.writeLine(form.block.end);
+    if (observer != nullptr)
+        observer->exported(item);
+}
+
+void Export::goods(const Item &item, const GoodsOptions &options, bool hasRow) const
+{
+    this->item(item);
+    if (hasRow) {
+        appendGoodsRow(goodsRows, goodsRow(item.code, options.prefixRows, item.values), item.text,
+                       options.htmlMark);
+    }
+}
+
+} // namespace exporter
+
+exporter::Export CommXmlReader::exportTo(Writer &lines, PathIndex &index)
+{
+    using exporter::Doubt;
+    static constexpr std::pair<PathIndex::Flaw, Doubt> doubts[] = {
+        {PathIndex::Flaw::UnknownKey, Doubt::UnknownGroup},
+        {PathIndex::Flaw::MissingParent, Doubt::MissingParent},
+        {PathIndex::Flaw::Loop, Doubt::GroupLoop},
+    };
+    const exporter::Reading path = [this, &index](const QDomElement &id) {
+        const PathIndex::Path found = buildPath(index, textOf(id));
+        for (const auto &[flaw, doubt] : doubts) {
+            if (observer != nullptr && found.flaw == flaw)
+                observer->doubted(id, doubt);
+        }
+        return exporter::unlessEmpty(found.text);
+    };
+    return {lines, goodsRows, path, observer};
+}

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+//
+// The walks behind the exporters, and what they share.
+#pragma once
+
+#include "exchange/goodsrow.h"
+#include "exchange/writer.h"
+#include "export/fields.h"
+#include "export/observer.h"
+
+#include <QDomNode>
+#include <QList>
+#include <QPair>
+#include <QStringList>
+
+#include <optional>
+
+namespace exporter
+{
+
+/// How an exporter presents goods.
+struct GoodsOptions {
+    bool prefixRows = false;
+    bool withDescription = false;
+    exchange::HtmlMark htmlMark = exchange::HtmlMark::None;
+    std::optional<double> priceFactor = {}; ///< prices are multiplied by it, if there is one
+};
+
+/// The options of an exporter of catalogues, from its parameters: a described good's row is marked
+/// as HTML or not at all.
+GoodsOptions catalogueOptions(bool prefixRows, bool withDescription, bool markHtml);
+
+/// The options of an exporter of offers, from its parameters: a described offer's row is marked as
+/// HTML or not HTML.
+GoodsOptions offerOptions(bool prefixRows, bool withDescription, bool markHtml, bool applyFactor,
+                          double priceFactor);
+
+/// Where an export takes paths from and where it goes.
+struct Export {
+    exchange::Writer &writer;     ///< gets the lines
+    QStringList &goodsRows;       ///< gets the goods rows
+    Reading path;                 ///< of the group that the text of an element names
+    Observer *observer = nullptr; ///< hears of it; null: nobody does
+
+    /// Exports the block of an item.
+    void item(const Item &item) const;
+
+    /// Exports the block of a good or an offer, and, if `hasRow`, its goods row and description
+    /// entries.
+    void goods(const Item &item, const GoodsOptions &options, bool hasRow = true) const;
+
+    /// Tells the observer of an item that is left out.
+    void leftOut(ItemKind kind, const QDomElement &element, Loss loss) const
+    {
+        if (observer != nullptr)
+            observer->leftOut(kind, element, loss);
+    }
+
+    /// Tells the observer of a doubt about the next item.
+    void doubted(const QDomElement &element, Doubt doubt) const
+    {
+        if (observer != nullptr)
+            observer->doubted(element, doubt);
+    }
+};
+
+} // namespace exporter
