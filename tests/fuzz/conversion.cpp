@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 //
 // Whole conversions of arbitrary bytes, for libFuzzer. Beside what the sanitizers find, it ends the
-// run where the tree is not the one of the toolkit, or where two runs give different rows.
+// run where the tree is not the one of the toolkit, where two runs give different rows, or where an
+// observer is told of what is no element.
 #include "../unit/probe.h"
+#include "export/observer.h"
 #include "reader/sourceparser.h"
 
 #include <QBuffer>
@@ -10,9 +12,11 @@
 namespace
 {
 
-class Conversion : public Probe
+class Conversion : public Probe, private exporter::Observer
 {
 public:
+    Conversion() { setObserver(this); }
+
     bool load(QByteArray &source)
     {
         QBuffer buffer(&source);
@@ -44,6 +48,20 @@ public:
         }
         return rows;
     }
+
+private:
+    static void check(const QDomElement &element)
+    {
+        if (element.tagName().isEmpty())
+            qFatal("no element");
+    }
+
+    void exported(const exporter::Item &item) override { check(item.element); }
+    void leftOut(exporter::ItemKind, const QDomElement &element, exporter::Loss) override
+    {
+        check(element);
+    }
+    void doubted(const QDomElement &element, exporter::Doubt) override { check(element); }
 };
 
 } // namespace
