@@ -53,12 +53,13 @@ public:
     // --- Object and files: reader/files.cpp ------------------------------------------------------
 
     /// Writes `text` in quotation marks, with a blank behind them, as a line of the toolkit's debug
-    /// output, which for a console program is standard error, in the local 8-bit encoding.
+    /// output, which for a console program is standard error, in the local 8-bit encoding: the ANSI
+    /// code page on Windows, elsewhere UTF-8.
     virtual void logMessage(const QString &text);
 
     /// Parses the XML file at `path` into the document; its encoding is what the file declares.
-    /// False if it can't be opened or is not well-formed: there is no root element then, and
-    /// logMessage() has told which. The file is closed in every case.
+    /// False if it can't be opened or is not well-formed: document and root element are empty then,
+    /// and logMessage() has told which. The file is closed in every case.
     bool loadSource(const QString &path);
 
     /// Opens the exchange file outputFileName, in place of any older one, and writes its header.
@@ -73,7 +74,8 @@ public:
     // --- Section lists: reader/sections.cpp ------------------------------------------------------
 
     /// Tells the dialect from the root's name, in any case of letters, and fills the section lists
-    /// anew. A root of another name leaves the dialect as it was. False if there is no root.
+    /// anew. Forgets paths, pictures and goods rows. A root of another name leaves the dialect as
+    /// it was. False if there is no root.
     bool readStructure();
 
     /// Appends every section below `parent` to its list, in document order, sections nested in
@@ -88,6 +90,8 @@ public:
     /// The value of an attribute; null if `node` does not have it.
     static QString attributeValue(const QDomNode &node, const QString &name);
 
+    // For hosts: the exporters take paths from an index instead, which finds the same elements.
+
     /// The first element below `parent`, at any depth, with this tag and exactly this full text;
     /// null if there is none.
     static QDomNode findElementByText(const QDomNode &parent, const QString &tag,
@@ -100,13 +104,13 @@ public:
 
     // --- Paths: reader/paths.cpp, export/yml/categories.cpp --------------------------------------
 
-    /// The names from the top group down to the CommerceML group with this "Ид", joined by " \ ";
-    /// empty if no section of groups gives one.
+    /// The names from the top group down to the CommerceML group with this "Ид", joined by
+    /// pathSeparator; empty if no section of groups gives one.
     QString groupPath(const QString &id);
 
-    /// The names from the root category down to the YML category with this "id", joined by " \ ";
-    /// empty if no section of groups gives one. Parents are sought in the same section; a chain
-    /// of them ends where it leads back to a category already walked.
+    /// The names from the root category down to the YML category with this "id", joined by
+    /// pathSeparator; empty if no section of groups gives one. Parents are sought in the same
+    /// section; a chain of them ends where it leads back to a category already walked.
     QString ymlCategoryPath(const QString &id);
 
     // --- CommerceML catalogues and offers: export/commerceml/katalogs.cpp, prices.cpp ------------
@@ -135,9 +139,9 @@ public:
 
     /// Exports each document of docs as a partner, an order head and order lines; `withGoods`: with
     /// a goods block ahead of each line. `documentType`: 1 for sales, to a buyer, 0 for purchases,
-    /// from a seller. A document without a partner to its role is skipped. False if there are no
-    /// documents, the exchange file is not being written, or an order has no lines: the export ends
-    /// at that order.
+    /// from a seller. A document without a partner, or whose partner has no code, is skipped. False
+    /// if there are no documents, the exchange file is not being written, or an order has no lines:
+    /// the export ends at that order.
     bool exportDocs(bool withGoods, int documentType);
 
     /// Appends a line row for each line of the first document to goodsRows, `withGoods` behind a
@@ -145,6 +149,8 @@ public:
     bool collectDocumentRows(bool withGoods);
 
     // --- Clipboard: exchange/clipboard.cpp -------------------------------------------------------
+
+    // They stand in a library of their own, xml2ryk-clipboard, and need a QGuiApplication.
 
     /// Puts goodsRows on the clipboard, each with a line feed behind it.
     void copyRowsToClipboard();
