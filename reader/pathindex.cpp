@@ -5,17 +5,19 @@
 #include <QStringList>
 
 #include <algorithm>
-#include <utility>
+#include <tuple>
 
 static constexpr int noSection = -1;
 
-/// Keys of one digest are the same: nobody can choose two that are not.
+/// Keys of one digest are the same: nobody can choose two that are not. Short ones stand for
+/// themselves.
 static QByteArray digestOf(const QString &key)
 {
-    return QCryptographicHash::hash(
-        QByteArray::fromRawData(reinterpret_cast<const char *>(key.utf16()),
-                                key.size() * static_cast<int>(sizeof(QChar))),
-        QCryptographicHash::Sha256);
+    constexpr int digestSize = 32;
+    const QByteArray bytes(reinterpret_cast<const char *>(key.utf16()),
+                           key.size() * static_cast<int>(sizeof(QChar)));
+    return bytes.size() < digestSize ? bytes
+                                     : QCryptographicHash::hash(bytes, QCryptographicHash::Sha256);
 }
 
 /// What tells a node from all others.
@@ -31,14 +33,8 @@ static const void *identity(const QDomNode &node)
 PathIndex::Path PathIndex::path(const QList<QDomNode> &sections, const QString &key)
 {
     // Lists that nobody has changed share their data, and compare at once.
-    if (sections != indexed) {
-        clear();
-        indexed = sections;
-        while (enclosing.size() < indexed.size()) {
-            enclosing.append(noSection);
-            collect(indexed.at(enclosing.size() - 1), enclosing.size() - 1);
-        }
-    }
+    if (sections != indexed)
+        build(sections);
     const auto known = paths.constFind(key);
     if (known != paths.constEnd())
         return *known;
@@ -56,48 +52,82 @@ void PathIndex::clear()
     *this = PathIndex(kind);
 }
 
-void PathIndex::collect(const QDomNode &parent, int section)
+void PathIndex::build(const QList<QDomNode> &sections)
 {
-    for (QDomElement element = parent.firstChildElement(); !element.isNull();
-         element = element.nextSiblingElement()) {
-        const Keyed keyed = kind.keyed(element);
-        if (!keyed.node.isNull())
-            places[digestOf(keyed.key)].append({section, keyed.node});
-        if (!kind.isDeep)
-            continue;
-        // What sections share is visited once: nested in each other, they could be very many.
-        const int next = enclosing.size();
-        const bool isNextSection = next < indexed.size() && element == indexed.at(next);
-        if (isNextSection)
-            enclosing.append(section);
-        collect(element, isNextSection ? next : section);
+    clear();
+    indexed = sections;
+    while (enclosing.size() < indexed.size()) {
+        const int section = enclosing.size();
+        enclosing.append(noSection);
+        QString text;
+        collect(indexed.at(section), section, text);
     }
+    std::stable_sort(places.begin(), places.end(),
+                     [](const Place &a, const Place &b) { return a.digest < b.digest; });
+}
+
+/// Adds the texts that it finds to `text`.
+void PathIndex::collect(const QDomNode &parent, int section, QString &text)
+{
+    for (QDomNode child = parent.firstChild(); !child.isNull(); child = child.nextSibling()) {
+        if (child.isText())
+            text += child.nodeValue();
+        const QDomElement element = child.toElement();
+        if (element.isNull())
+            continue;
+        const Keyed keyed = kind.keyed(element);
+        const int place = places.size();
+        if (!keyed.node.isNull())
+            places.append({section, keyed.node, {}});
+        const int begin = text.size();
+        if (kind.isDeep) {
+            // What sections share is visited once: nested in each other, they could be very many.
+            const int next = enclosing.size();
+            const bool isNextSection = next < indexed.size() && element == indexed.at(next);
+            if (isNextSection)
+                enclosing.append(section);
+            collect(element, isNextSection ? next : section, text);
+        }
+        if (!keyed.node.isNull())
+            places[place].digest = digestOf(keyed.key ? *keyed.key : text.mid(begin));
+    }
+}
+
+/// Where those of a digest begin, or those of them that are in this section or behind it.
+const PathIndex::Place *PathIndex::find(const QByteArray &digest, int section) const
+{
+    return std::lower_bound(places.cbegin(), places.cend(), std::tie(digest, section),
+                            [](const Place &place, const auto &wanted) {
+                                return std::tie(place.digest, place.section) < wanted;
+                            });
 }
 
 /// The first node with this key in each section that has one, by section.
 QMap<int, QDomNode> PathIndex::firstNodes(const QString &key) const
 {
+    const QByteArray digest = digestOf(key);
     QMap<int, QDomNode> firsts;
-    for (const Place &place : places.value(digestOf(key))) {
+    for (const Place *place = find(digest, noSection);
+         place != places.cend() && place->digest == digest; ++place) {
         // Where a section has its first node already, those around it have, too.
-        int section = place.section;
+        int section = place->section;
         while (section != noSection && !firsts.contains(section)) {
-            firsts.insert(section, place.node);
+            firsts.insert(section, place->node);
             section = enclosing.at(section);
         }
     }
     return firsts;
 }
 
-/// The first node with this key that is told in this section, and in none within it; null if there
-/// is none.
+/// The first node with this key in this section, for a kind that is not deep; null if there is
+/// none.
 QDomNode PathIndex::nodeIn(int section, const QString &key) const
 {
-    const QVector<Place> found = places.value(digestOf(key));
-    const auto *place =
-        std::lower_bound(found.cbegin(), found.cend(), section,
-                         [](const Place &p, int wanted) { return p.section < wanted; });
-    return place != found.cend() && place->section == section ? place->node : QDomNode();
+    const QByteArray digest = digestOf(key);
+    const Place *const place = find(digest, section);
+    const bool isFound =
+        place != places.cend() && place->section == section && place->digest == digest;
+    return isFound ? place->node : QDomNode();
 }
 
 /// The node with all above it, each looked at unless it is known.

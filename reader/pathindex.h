@@ -21,10 +21,10 @@ inline const QString pathSeparator = QStringLiteral(" \\ ");
 class PathIndex
 {
 public:
-    /// What has a key; a null node if nothing has.
+    /// What an element's key leads to; a null node if it has no key.
     struct Keyed {
-        QString key;
         QDomNode node;
+        std::optional<QString> key = {}; ///< if none, the key is the full text of the element
     };
 
     /// One node on a path.
@@ -36,10 +36,10 @@ public:
 
     /// What a path is made of.
     struct Kind {
-        /// What has the key that this element of a section tells.
+        /// What the key of this element of a section leads to.
         Keyed (*keyed)(const QDomElement &element);
         Step (*step)(const QDomNode &node);
-        bool isDeep; ///< elements at any depth of a section tell keys, or else its children alone
+        bool isDeep; ///< elements at any depth of a section have keys, or else its children alone
     };
 
     /// Why a path is not what a source should give.
@@ -69,6 +69,7 @@ private:
     struct Place {
         int section; // the innermost one around it
         QDomNode node;
+        QByteArray digest; // of the key
     };
 
     struct Node {
@@ -79,7 +80,9 @@ private:
         Flaw flaw = Flaw::None;
     };
 
-    void collect(const QDomNode &parent, int section);
+    void build(const QList<QDomNode> &sections);
+    void collect(const QDomNode &parent, int section, QString &text);
+    const Place *find(const QByteArray &digest, int section) const;
     QMap<int, QDomNode> firstNodes(const QString &key) const;
     QDomNode nodeIn(int section, const QString &key) const;
     const Node *visit(const QDomNode &first, int section);
@@ -88,8 +91,8 @@ private:
 
     Kind kind;
     QList<QDomNode> indexed;
-    QVector<int> enclosing;                  // the section around each section
-    QMap<QByteArray, QVector<Place>> places; // by a digest of the key, in document order
+    QVector<int> enclosing; // the section around each section
+    QVector<Place> places;  // by digest; those of one digest in document order
     std::unordered_map<const void *, Node> nodes;
     QMap<QString, Path> paths;
 };

@@ -13,7 +13,7 @@ PathIndex::Keyed whatHasId(const QDomElement &element)
 {
     if (element.tagName() != idElement)
         return {};
-    return {textOf(element), element.parentNode()};
+    return {element.parentNode()};
 }
 
 /// The group that holds `group` among its subgroups; null for a group at the top.

@@ -10,7 +10,7 @@ PathIndex::Keyed categoryWithId(const QDomElement &element)
     if (element.tagName() != QLatin1String("category"))
         return {};
     const QDomNode id = element.attributes().namedItem(QStringLiteral("id"));
-    return id.isNull() ? PathIndex::Keyed() : PathIndex::Keyed{id.nodeValue(), element};
+    return id.isNull() ? PathIndex::Keyed() : PathIndex::Keyed{element, id.nodeValue()};
 }
 
 PathIndex::Step categoryStep(const QDomNode &category)
