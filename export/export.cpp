@@ -4,6 +4,8 @@
 #include "reader/commxmlreader.h"
 #include "reader/tree.h"
 
+#include <utility>
+
 using namespace exchange;
 
 namespace exporter

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The walks behind the exporters, and what they share.
+// What the walks behind the exporters share.
 #pragma once
 
 #include "exchange/goodsrow.h"
@@ -8,9 +8,6 @@
 #include "export/fields.h"
 #include "export/observer.h"
 
-#include <QDomNode>
-#include <QList>
-#include <QPair>
 #include <QStringList>
 
 #include <optional>

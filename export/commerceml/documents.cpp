@@ -25,6 +25,7 @@ const PartnerRole partnerRoles[] = {
     {0, QStringLiteral("Продавец")},
 };
 
+/// Whether a partner has the role that is wanted, or none to tell.
 bool isWanted(const QDomElement &partner, int documentType)
 {
     const QDomElement role = partner.firstChildElement(QStringLiteral("Роль"));
