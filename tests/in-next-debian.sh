@@ -1,0 +1,21 @@
+#!/usr/bin/env bash
+#
+# tests/in-next-debian.sh [RELEASE]: as root, follows the README on a minimal Debian of the next
+# release, trixie if none is given: with the last commit and nothing else it converts an example,
+# which must give what build/xml2ryk gives, and runs every test.
+set -euo pipefail
+# shellcheck source-path=SCRIPTDIR source=new-debian.sh
+. "$(dirname "$(readlink -f "$0")")/new-debian.sh"
+
+expect_arguments 0 1 "$@"
+set_up_debian "${1:-trixie}"
+mkdir "$fresh/xml2ryk"
+git -c safe.directory="$root" -C "$root" archive HEAD | tar -x -C "$fresh/xml2ryk"
+mount -t proc proc "$fresh/proc"
+trap 'umount "$fresh/proc"; rm -rf "$fresh"' EXIT
+
+example=examples/orders-windows-1251.xml
+within xml2ryk/scripts/convert "xml2ryk/$example" out.txt </dev/null >/dev/null
+"$root/build/xml2ryk" "$root/$example" "$fresh/expected.txt" </dev/null >/dev/null 2>&1
+cmp "$fresh/out.txt" "$fresh/expected.txt"
+within xml2ryk/scripts/test </dev/null
