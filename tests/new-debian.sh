@@ -21,8 +21,11 @@ set_up_debian() {
     rm "$fresh.log"
 }
 
-# within COMMAND...: runs it in that Debian.
+# within COMMAND...: runs it in that Debian, where it has processes and terminals to look at.
 within() {
+    # shellcheck disable=SC2016
     env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin LC_ALL=C.UTF-8 DEBIAN_FRONTEND=noninteractive HOME=/root \
-        chroot "$fresh" "$@"
+        unshare --mount sh -ec 'mount -t proc proc "$0/proc"
+            mount -t devpts -o newinstance,ptmxmode=0666 devpts "$0/dev/pts"
+            exec chroot "$0" "$@"' "$fresh" "$@"
 }
