@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 #
-# tests/in-next-debian.sh [RELEASE]: as root, follows the README on a minimal Debian of the next
+# checks/in-next-debian.sh [RELEASE]: as root, follows the README on a minimal Debian of the next
 # release, trixie if none is given: with the last commit and nothing else it converts an example,
 # which must give what build/xml2ryk gives, and runs every test.
 set -euo pipefail
