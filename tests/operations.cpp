@@ -5,7 +5,7 @@
 // what each returns, the goods rows and pictures it leaves, and what it tells an observer.
 //
 // A CALL is the name of an operation and those of its parameters that are set, or are given a value
-// with "=". Rows end in "$": they can hold line ends.
+// with "=". Rows and paths end in "$": they can hold line ends and blanks.
 #include "export/observer.h"
 #include "reader/commxmlreader.h"
 
@@ -54,6 +54,8 @@ public:
             {"exportDocs",
              [&] { return exportDocs(is("withGoods"), value("documentType").toInt()); }},
             {"collectDocumentRows", [&] { return collectDocumentRows(is("withGoods")); }},
+            {"groupPath", [&] { return path(groupPath(text.section("id=", 1))); }},
+            {"ymlCategoryPath", [&] { return path(ymlCategoryPath(text.section("id=", 1))); }},
         };
         results << "> " << text << '\n';
         goodsRows.clear();
@@ -66,6 +68,16 @@ public:
     }
 
 private:
+    /// Whether there is one.
+    bool path(const QString &path)
+    {
+        results << "path " << (path == pathBuffer ? path : "not in pathBuffer") << "$\n";
+        return !path.isEmpty();
+    }
+
+    void logMessage(const QString & /*text*/) override {
+    } // the log of the program has its own tests
+
     static QString nameOf(ItemKind kind)
     {
         static const char *const names[] = {"Good",  "Offer",     "Partner",

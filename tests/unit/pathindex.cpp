@@ -3,7 +3,7 @@
 
 #include <QRandomGenerator>
 
-/// Paths by the plain searches, on random trees: the paths of the reader must be the same.
+/// The paths of a reader; on random trees they must be those of the plain searches.
 class PathIndexTest : public QObject
 {
     Q_OBJECT
@@ -97,6 +97,21 @@ private slots:
             }
         }
         QVERIFY(filled > 1000);
+    }
+
+    void readStructureForgetsPaths()
+    {
+        Probe probe("<r><Классификатор><Ид>1</Ид><Наименование>old</Наименование>"
+                    "<category id='1'>old</category></Классификатор></r>");
+        for (const QString name : {"old", "new"}) {
+            QCOMPARE(probe.groupPath("1"), name);
+            QCOMPARE(probe.ymlCategoryPath("1"), name);
+            for (QDomNode child :
+                 {probe.groups.first().childNodes().at(1), probe.groups.first().childNodes().at(2)})
+                child.firstChild().setNodeValue("new");
+            QVERIFY(probe.readStructure());
+        }
+        QVERIFY(!probe.groupPath("unknown").isNull() && !probe.pathBuffer.isNull());
     }
 };
 

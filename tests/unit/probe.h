@@ -14,16 +14,6 @@ inline QString source(const char *name)
     return QString::fromUtf8(file.readAll());
 }
 
-/// Rows for a test: each line of a file of data/ is a name, a bar, and what is expected of it.
-inline void addRows(const char *name)
-{
-    QTest::addColumn<QString>("expected");
-    for (const QString &line : source(name).split('\n', Qt::SkipEmptyParts)) {
-        const int bar = line.indexOf('|');
-        QTest::newRow(qUtf8Printable(line.left(bar))) << line.mid(bar + 1);
-    }
-}
-
 /// Names and values of all nodes below `node`, but of those that stand for entities.
 inline QStringList nodeTexts(const QDomNode &node)
 {

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 #
-# tests/scripts.sh: the manners of the scripts, tried in a copy of them that has nothing to build, on
+# checks/scripts.sh: the manners of the scripts, tried in a copy of them that has nothing to build, on
 # a machine that seems to lack every package.
 set -euo pipefail
 
