@@ -23,45 +23,21 @@ GoodsOptions offerOptions(bool prefixRows, bool withDescription, bool markHtml, 
             applyFactor ? std::optional(priceFactor) : std::nullopt};
 }
 
-/// The form of a block.
-struct Form {
-    Block block;
-    QLatin1String codeKey; // of its first line; empty if it has no code
-};
-
-static Form formOf(ItemKind kind)
+void Export::item(const Item &item, const Block &block, QLatin1String codeKey) const
 {
-    switch (kind) {
-    case ItemKind::Good:
-    case ItemKind::Offer:
-    case ItemKind::OrderGood:
-        break;
-    case ItemKind::Partner:
-        return {partnerBlock, codeKey};
-    case ItemKind::Order:
-        return {orderBlock, "number:"_l1};
-    case ItemKind::OrderLine:
-        return {itemBlock, {}};
-    }
-    return {goodsBlock, codeKey};
-}
-
-void Export::item(const Item &item) const
-{
-    const Form form = formOf(item.kind);
-    writer.writeLine(form.block.begin);
-    if (!form.codeKey.isEmpty())
-        writer.writeLine(form.codeKey, item.code);
+    writer.writeLine(block.begin);
+    if (!codeKey.isEmpty())
+        writer.writeLine(codeKey, item.code);
     writer.writeFields(item.values);
     writer.writeText(item.text);
-    writer.writeLine(form.block.end);
+    writer.writeLine(block.end);
     if (observer != nullptr)
         observer->exported(item);
 }
 
 void Export::goods(const Item &item, const GoodsOptions &options, bool hasRow) const
 {
-    this->item(item);
+    this->item(item, goodsBlock);
     if (hasRow) {
         appendGoodsRow(goodsRows, goodsRow(item.code, options.prefixRows, item.values), item.text,
                        options.htmlMark);

@@ -39,8 +39,9 @@ struct Export {
     Reading path;                 ///< of the group that the text of an element names
     Observer *observer = nullptr; ///< hears of it; null: nobody does
 
-    /// Exports the block of an item.
-    void item(const Item &item) const;
+    /// Exports an item as a block, whose first line is `codeKey` and its code, if there is a key.
+    void item(const Item &item, const exchange::Block &block,
+              QLatin1String codeKey = exchange::codeKey) const;
 
     /// Exports the block of a good or an offer, and, if `hasRow`, its goods row and description
     /// entries.

@@ -40,5 +40,5 @@ void commerceml::exportOrderHead(const QDomElement &doc, const Export &to, int d
             order.values.append({lineOnly("status:"_l1), {}, value});
         order.text += name + ": "_l1 + value + QLatin1Char('\n');
     }
-    to.item(order);
+    to.item(order, orderBlock, "number:"_l1);
 }

@@ -42,9 +42,11 @@ bool commerceml::exportOrderLines(const QDomElement &doc, const Export &to, bool
                 continue;
             }
             code = textOf(id);
-            to.item({ItemKind::OrderGood, element, code, readFields(line, goodsFields), {}});
+            to.item({ItemKind::OrderGood, element, code, readFields(line, goodsFields), {}},
+                    goodsBlock);
         }
-        to.item({ItemKind::OrderLine, element, code, readFields(line, itemFields), {}});
+        to.item({ItemKind::OrderLine, element, code, readFields(line, itemFields), {}}, itemBlock,
+                {});
     }
     to.writer.writeLine(closeOrder);
     return true;

@@ -74,5 +74,6 @@ void commerceml::exportPartner(const QDomElement &partner, const Export &to)
              partner,
              textOf(partner.firstChildElement(idElement)),
              readFields(ChildLookup(partner), partnerFields) + readContacts(partner),
-             {}});
+             {}},
+            partnerBlock);
 }

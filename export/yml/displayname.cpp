@@ -46,7 +46,7 @@ bool holds(const QString &text, const QString &part)
 
 } // namespace
 
-QString displayName(const QString &name)
+QString yml::displayName(const QString &name)
 {
     constexpr QLatin1Char open('[');
     constexpr QLatin1Char close(']');

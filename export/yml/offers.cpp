@@ -12,7 +12,7 @@ namespace
 
 std::optional<QString> shownName(const QDomElement &name)
 {
-    return displayName(textOf(name));
+    return yml::displayName(textOf(name));
 }
 
 /// The fields of an "offer". Prices are multiplied by `factor`, if there is one.
