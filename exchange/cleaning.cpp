@@ -41,7 +41,7 @@ Price readPrice(const QString &sourceText, std::optional<double> factor)
     bool isRead = false;
     const double read = sourceText.toDouble(&isRead);
     const double number = (isRead ? read : 0.0) * factor.value_or(1.0);
-    return {number, factor ? priceFormat(number) : sourceText, isRead && std::isfinite(read)};
+    return {number, factor ? priceFormat(number) : sourceText, isRead && std::isfinite(number)};
 }
 
 } // namespace exchange

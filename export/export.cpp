@@ -44,23 +44,25 @@ void Export::goods(const Item &item, const GoodsOptions &options, bool hasRow) c
     }
 }
 
-} // namespace exporter
-
-exporter::Export CommXmlReader::exportTo(Writer &lines, PathIndex &index)
+std::optional<QString> Export::path(const QDomElement &id) const
 {
-    using exporter::Doubt;
     static constexpr std::pair<PathIndex::Flaw, Doubt> doubts[] = {
         {PathIndex::Flaw::UnknownKey, Doubt::UnknownGroup},
         {PathIndex::Flaw::MissingParent, Doubt::MissingParent},
         {PathIndex::Flaw::Loop, Doubt::GroupLoop},
     };
-    const exporter::Reading path = [this, &index](const QDomElement &id) {
-        const PathIndex::Path found = buildPath(index, textOf(id));
-        for (const auto &[flaw, doubt] : doubts) {
-            if (observer != nullptr && found.flaw == flaw)
-                observer->doubted(id, doubt);
-        }
-        return exporter::unlessEmpty(found.text);
-    };
-    return {lines, goodsRows, path, observer};
+    const PathIndex::Path found = findPath(textOf(id));
+    for (const auto &[flaw, doubt] : doubts) {
+        if (found.flaw == flaw)
+            doubted(id, doubt);
+    }
+    return unlessEmpty(found.text);
+}
+
+} // namespace exporter
+
+exporter::Export CommXmlReader::exportTo(Writer &lines, PathIndex &index)
+{
+    return {lines, goodsRows, [this, &index](const QString &id) { return buildPath(index, id); },
+            observer};
 }

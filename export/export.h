@@ -7,9 +7,11 @@
 #include "exchange/writer.h"
 #include "export/fields.h"
 #include "export/observer.h"
+#include "reader/pathindex.h"
 
 #include <QStringList>
 
+#include <functional>
 #include <optional>
 
 namespace exporter
@@ -34,10 +36,13 @@ GoodsOptions offerOptions(bool prefixRows, bool withDescription, bool markHtml, 
 
 /// Where an export takes paths from and where it goes.
 struct Export {
-    exchange::Writer &writer;     ///< gets the lines
-    QStringList &goodsRows;       ///< gets the goods rows
-    Reading path;                 ///< of the group that the text of an element names
-    Observer *observer = nullptr; ///< hears of it; null: nobody does
+    exchange::Writer &writer;                                   ///< gets the lines
+    QStringList &goodsRows;                                     ///< gets the goods rows
+    std::function<PathIndex::Path(const QString &id)> findPath; ///< of a group or category
+    Observer *observer = nullptr;                               ///< hears of it; null: nobody does
+
+    /// The path of the group or category that the text of an element names, if there is one.
+    std::optional<QString> path(const QDomElement &id) const;
 
     /// Exports an item as a block, whose first line is `codeKey` and its code, if there is a key.
     void item(const Item &item, const exchange::Block &block,

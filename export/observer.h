@@ -42,15 +42,16 @@ enum class Loss {
 enum class Doubt {
     OtherRole,     ///< at a partner: it has another role than the wanted one
     UnknownGroup,  ///< at an id: no section has it
-    MissingParent, ///< at an id: a parent above its group or category is missing
-    GroupLoop,     ///< at an id: the parents above its category lead back to it
-    PriceNoNumber, ///< at a price: no finite number; a text that is none counts as 0
-    PricesDropped, ///< at the prices of an offer: they are more than a block has places for
+    MissingParent, ///< at an id: a parent above its category is missing
+    GroupLoop,     ///< at an id: the parents above its category lead back to one of themselves
+    PriceNoNumber, ///< at a price that is read as a number, but is none that is finite
+    PricesDropped, ///< at the prices of an offer: a block has places for two, and five are read
     SoldOut,       ///< at an offer: it has neither a unit nor a description nor a goods row
 };
 
-/// Hears of each item of an export, in the order of the exchange file, from the place that decides
-/// on it. Elements are those of the reader's document.
+/// Hears of each item that an export comes to, in the order of the exchange file, from the place
+/// that decides on it. An export does not come to what stands elsewhere: in a second list of goods,
+/// or in a section of another kind of source. Elements are those of the reader's document.
 class Observer
 {
 public:
@@ -58,7 +59,8 @@ public:
     virtual ~Observer() = default;
     Q_DISABLE_COPY(Observer)
 
-    /// `item` is exported, or would be if lines were being written.
+    /// `item` is exported, or would be if lines were being written. Whether they reached the file
+    /// is for exchange::Writer::hasFailed() to tell.
     virtual void exported(const Item &item) = 0;
 
     /// An item is left out, wholly or, for a document, from the point that `loss` tells.

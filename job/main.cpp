@@ -65,7 +65,7 @@ JobOptions readOptions(const QList<QByteArray> &arguments)
 }
 
 /// Writes the exchange file. False if not all documents are in it, or there are none.
-bool exportTo(const QString &path, CommXmlReader &reader, int documentType)
+bool writeExchangeFile(const QString &path, CommXmlReader &reader, int documentType)
 {
     try {
         reader.readStructure();
@@ -102,7 +102,7 @@ ExitCode convert(const JobOptions &options)
         pauseAtEnd();
         return SourceNotRead;
     }
-    if (!exportTo(options.destinationPath, reader, options.saleFlag)) {
+    if (!writeExchangeFile(options.destinationPath, reader, options.saleFlag)) {
         printMessage(QObject::tr("Error getting documents..."), false);
         pauseAtEnd();
         reader.closeOutput();

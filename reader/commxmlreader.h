@@ -32,10 +32,11 @@ using PictureLink = QPair<QString, QString>;
 
 /// One source document and the exchange file that is made of it.
 ///
-/// The exporters write lines only while outputEnabled is true, and build goodsRows either way. An
-/// exporter never fails on data: a missing element only leaves out its line. No operation throws,
-/// unless memory runs out behind loadSource(). All lookups of children take the first direct child
-/// of exactly the name; texts are not trimmed.
+/// The exporters write lines only while outputEnabled is true; those of goods and offers build
+/// goodsRows either way. An exporter never fails on data: a missing element only leaves out its
+/// line. No operation throws, unless memory runs out behind loadSource(): closeOutput() is all that
+/// the reader is good for then. All lookups of children take the first direct child of exactly the
+/// name; texts are not trimmed.
 class CommXmlReader
 {
 public:
@@ -162,8 +163,10 @@ public:
 
     // --- Observer: export/observer.h ------------------------------------------------------------
 
-    /// Has `newObserver` hear of all that the exporters do from now on. Null, as it is at first:
-    /// nobody does.
+    /// Has `newObserver`, which must outlive that, hear of all that the exporters do from now on.
+    /// Null, as it is at first: nobody does. Of documents it hears only while the exchange file is
+    /// open; a subclass can walk them without one, by commerceml::exportDocs() and a writer to
+    /// nowhere.
     void setObserver(exporter::Observer *newObserver) { observer = newObserver; }
 
 protected:
@@ -185,10 +188,11 @@ protected:
     PathIndex groupIndex{groupPaths};                   ///< over groups, for CommerceML
     PathIndex categoryIndex{categoryPaths};             ///< over groups, for YML
 
-    /// What an export of this reader takes paths from and where it goes.
+    /// What an export of this reader takes paths from and where it goes; in export/export.cpp.
     exporter::Export exportTo(exchange::Writer &lines, PathIndex &index);
 
 private:
+    // In the files of the paths.
     static const PathIndex::Kind groupPaths;
     static const PathIndex::Kind categoryPaths;
 

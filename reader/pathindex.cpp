@@ -150,17 +150,8 @@ const PathIndex::Node *PathIndex::visit(const QDomNode &first, int section)
             way.last()->above = node;
         way.append(node);
     }
-    if (isKnown) {
-        auto *const end = way.end() - 1;
-        auto *const loop = std::find(way.begin(), end, way.last());
-        // Where one has a name, the path begins elsewhere without those that have none.
-        const bool isNamed = std::any_of(loop, end, hasName);
-        std::for_each(loop, end, [=](Node *node) {
-            node->isInLoop = true;
-            node->flaw = Flaw::Loop;
-            node->bottom = isNamed ? node : nullptr;
-        });
-    }
+    if (isKnown)
+        closeLoop(way);
     for (auto node = way.crbegin() + (isKnown ? 1 : 0); node != way.crend(); ++node) {
         const Node *const above = (*node)->above;
         if (hasName(*node))
@@ -171,6 +162,20 @@ const PathIndex::Node *PathIndex::visit(const QDomNode &first, int section)
             (*node)->flaw = above->flaw;
     }
     return way.first();
+}
+
+/// Marks the loop of a way that has come back to where it has been, if it has.
+void PathIndex::closeLoop(const QVector<Node *> &way)
+{
+    const auto end = way.cend() - 1;
+    const auto loop = std::find(way.cbegin(), end, way.last());
+    // Where one has a name, the path begins elsewhere without those that have none.
+    const bool isNamed = std::any_of(loop, end, hasName);
+    std::for_each(loop, end, [=](Node *node) {
+        node->isInLoop = true;
+        node->flaw = Flaw::Loop;
+        node->bottom = isNamed ? node : nullptr;
+    });
 }
 
 PathIndex::Path PathIndex::pathTo(const Node *node)

@@ -86,6 +86,7 @@ private:
     QMap<int, QDomNode> firstNodes(const QString &key) const;
     QDomNode nodeIn(int section, const QString &key) const;
     const Node *visit(const QDomNode &first, int section);
+    static void closeLoop(const QVector<Node *> &way);
     static bool hasName(const Node *node) { return !node->name.value_or(QString()).isEmpty(); }
     static Path pathTo(const Node *node);
 

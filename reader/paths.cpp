@@ -37,7 +37,7 @@ const PathIndex::Kind CommXmlReader::groupPaths = {whatHasId, groupStep, true};
 
 PathIndex::Path CommXmlReader::buildPath(PathIndex &index, const QString &id)
 {
-    const PathIndex::Path path = index.path(groups, id);
+    PathIndex::Path path = index.path(groups, id);
     pathBuffer = path.text;
     return path;
 }

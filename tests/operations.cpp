@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 //
 // operations SOURCE RESULTS CALL...: calls operations of a reader that has loaded SOURCE, one after
-// the other, and prints to RESULTS
-// what each returns, the goods rows and pictures it leaves, and what it tells an observer.
+// the other, and prints to RESULTS what each returns, the goods rows and pictures that it leaves,
+// and what it tells an observer.
 //
 // A CALL is the name of an operation and those of its parameters that are set, or are given a value
 // with "=". Rows and paths end in "$": they can hold line ends and blanks.
-#include "export/observer.h"
+#include "export/commerceml/walks.h"
 #include "reader/commxmlreader.h"
 
 #include <QCoreApplication>
@@ -53,6 +53,12 @@ public:
             {"exportYmlOffers", [&] { return offers(&CommXmlReader::exportYmlOffers); }},
             {"exportDocs",
              [&] { return exportDocs(is("withGoods"), value("documentType").toInt()); }},
+            {"exportDocsToNowhere",
+             [&] {
+                 exchange::Writer nowhere;
+                 return commerceml::exportDocs(docs, exportTo(nowhere, groupIndex), is("withGoods"),
+                                               value("documentType").toInt());
+             }},
             {"collectDocumentRows", [&] { return collectDocumentRows(is("withGoods")); }},
             {"groupPath", [&] { return path(groupPath(text.section("id=", 1))); }},
             {"ymlCategoryPath", [&] { return path(ymlCategoryPath(text.section("id=", 1))); }},

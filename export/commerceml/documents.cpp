@@ -50,7 +50,7 @@ QDomElement choosePartner(const QDomNode &doc, int documentType)
 bool commerceml::exportDocs(const QList<QDomNode> &docs, const Export &to, bool withGoods,
                             int documentType)
 {
-    const FieldTable goodsFields = orderGoodsFields(to.path);
+    const FieldTable goodsFields = orderGoodsFields(to);
     for (auto doc = docs.cbegin(); doc != docs.cend(); ++doc) {
         const QDomElement element = doc->toElement();
         const QDomElement partner = choosePartner(element, documentType);

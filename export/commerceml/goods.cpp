@@ -10,11 +10,11 @@ namespace commerceml
 {
 
 /// The path of the first group that a good names.
-static Reading pathOfFirstGroup(const Reading &path)
+static Reading pathOfFirstGroup(const Export &to)
 {
-    return [path](const QDomElement &goodsGroups) -> std::optional<QString> {
+    return [&to](const QDomElement &goodsGroups) {
         const QDomElement id = goodsGroups.firstChildElement(idElement);
-        return id.isNull() ? std::nullopt : path(id);
+        return id.isNull() ? std::nullopt : to.path(id);
     };
 }
 
@@ -23,33 +23,33 @@ static const QString barcodeElement = QStringLiteral("Штрихкод");
 static const QString unitElement = QStringLiteral("БазоваяЕдиница");
 
 /// Catalogues and price packages differ in how a name is cleaned for the goods row.
-static FieldTable goodsFields(Cleaning nameCleaning, const Reading &path)
+static FieldTable goodsFields(Cleaning nameCleaning, const Export &to)
 {
     return {
         {articleElement, fullText, target::article, withoutTabs},
         {nameElement, fullText, target::name, nameCleaning},
         {barcodeElement, fullText, target::barcode, withoutTabs},
-        {groupsElement, pathOfFirstGroup(path), target::group},
+        {groupsElement, pathOfFirstGroup(to), target::group},
         {unitElement, ownText, target::unit},
     };
 }
 
-FieldTable catalogueGoodsFields(const Reading &path)
+FieldTable catalogueGoodsFields(const Export &to)
 {
-    return goodsFields(withoutTabs, path);
+    return goodsFields(withoutTabs, to);
 }
 
-FieldTable packageOfferFields(const Reading &path)
+FieldTable packageOfferFields(const Export &to)
 {
-    return goodsFields(withoutBrackets, path);
+    return goodsFields(withoutBrackets, to);
 }
 
-FieldTable orderGoodsFields(const Reading &path)
+FieldTable orderGoodsFields(const Export &to)
 {
     return {
         {articleElement, fullText, rowOnly(target::article.rowCode), withoutTabs},
         {nameElement, fullText, target::name, withoutBrackets, simplified},
-        {groupsElement, pathOfFirstGroup(path), target::group},
+        {groupsElement, pathOfFirstGroup(to), target::group},
         {unitElement, ownText, target::unit},
     };
 }

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
 // What is read of a good in CommerceML. A good stands in catalogues, price packages and orders, and
-// each kind of section has a table of its own. `path` tells the path of the group that an "Ид"
-// names.
+// each kind of section has a table of its own, which is for one export.
 #pragma once
 
 #include "export/export.h"
@@ -16,13 +15,13 @@ namespace commerceml
 {
 
 /// A "Товар" of a "Каталог".
-exporter::FieldTable catalogueGoodsFields(const exporter::Reading &path);
+exporter::FieldTable catalogueGoodsFields(const exporter::Export &to);
 
 /// A "Предложение" of a "ПакетПредложений", its prices excepted.
-exporter::FieldTable packageOfferFields(const exporter::Reading &path);
+exporter::FieldTable packageOfferFields(const exporter::Export &to);
 
 /// A "Товар" of a "Документ".
-exporter::FieldTable orderGoodsFields(const exporter::Reading &path);
+exporter::FieldTable orderGoodsFields(const exporter::Export &to);
 
 /// Where goods stand in a section.
 struct GoodsPlace {

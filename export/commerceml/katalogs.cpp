@@ -10,7 +10,7 @@ using namespace exporter;
 void commerceml::exportKatalogs(const QList<QDomNode> &katalogs, const Export &to,
                                 const GoodsOptions &options)
 {
-    const FieldTable fields = catalogueGoodsFields(to.path);
+    const FieldTable fields = catalogueGoodsFields(to);
     exportGoods(katalogs, {goodsListElement, goodsElement, ItemKind::Good}, to, options,
                 [&](const ChildLookup &goods) { return readFields(goods, fields); });
 }

@@ -58,8 +58,9 @@ bool CommXmlReader::collectDocumentRows(bool withGoods)
     if (lines.isEmpty())
         return false;
     constexpr bool prefixed = true;
-    const FieldTable goodsFields = orderGoodsFields(
-        [this](const QDomElement &id) { return unlessEmpty(groupPath(textOf(id))); });
+    Export to = exportTo(writer, groupIndex);
+    to.observer = nullptr; // nothing is exported
+    const FieldTable goodsFields = orderGoodsFields(to);
     for (const QDomElement &element : lines) {
         const ChildLookup line(element);
         QString code;

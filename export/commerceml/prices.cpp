@@ -41,11 +41,13 @@ FieldValues readPrices(const Export &to, const ChildLookup &offer, std::optional
     bool isDropped = false;
     const QDomElement list = offer.first(QStringLiteral("Цены"));
     for (const QDomElement &price : ChildElements(list, QStringLiteral("Цена"))) {
-        if (rowCode == std::end(priceRowCodes)) {
-            isDropped = true;
-            break;
-        }
         const QDomElement unitPrice = price.firstChildElement(unitPriceElement);
+        if (rowCode == std::end(priceRowCodes)) {
+            isDropped = !unitPrice.isNull();
+            if (isDropped)
+                break;
+            continue;
+        }
         if (!unitPrice.isNull()) {
             const QString text = textOf(unitPrice);
             const Price read = readPrice(text, factor);
@@ -77,7 +79,7 @@ FieldValues readPrices(const Export &to, const ChildLookup &offer, std::optional
 void commerceml::exportPrices(const QList<QDomNode> &prices, const Export &to,
                               const GoodsOptions &options)
 {
-    const FieldTable fields = packageOfferFields(to.path);
+    const FieldTable fields = packageOfferFields(to);
     exportGoods(prices,
                 {QStringLiteral("Предложения"), QStringLiteral("Предложение"), ItemKind::Offer}, to,
                 options, [&](const ChildLookup &offer) {

@@ -32,8 +32,8 @@ void exportPartner(const QDomElement &partner, const exporter::Export &to);
 /// Exports the head of an order.
 void exportOrderHead(const QDomElement &doc, const exporter::Export &to, int documentType);
 
-/// Exports the lines of an order, with `goodsFields` in a goods block ahead of each if there are
-/// any. False if there are no lines.
+/// Exports the lines of an order, `withGoods` behind a goods block of `goodsFields` each. False if
+/// there are no lines.
 bool exportOrderLines(const QDomElement &doc, const exporter::Export &to, bool withGoods,
                       const exporter::FieldTable &goodsFields);
 

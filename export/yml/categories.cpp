@@ -9,8 +9,8 @@ PathIndex::Keyed categoryWithId(const QDomElement &element)
 {
     if (element.tagName() != QLatin1String("category"))
         return {};
-    const QDomNode id = element.attributes().namedItem(QStringLiteral("id"));
-    return id.isNull() ? PathIndex::Keyed() : PathIndex::Keyed{element, id.nodeValue()};
+    const QString id = CommXmlReader::attributeValue(element, QStringLiteral("id"));
+    return id.isNull() ? PathIndex::Keyed() : PathIndex::Keyed{element, id};
 }
 
 PathIndex::Step categoryStep(const QDomNode &category)

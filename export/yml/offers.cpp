@@ -26,6 +26,7 @@ FieldTable offerFields(const Export &to, bool extended, std::optional<double> fa
             to.doubted(element, Doubt::PriceNoNumber);
         return withoutTabs(read.text);
     };
+    const Reading path = [&to](const QDomElement &id) { return to.path(id); };
     const QString name = QStringLiteral("name");
     const Target typePrefix{"DP7"_l1, "DP7:"_l1};
     const Target country{"DP3"_l1, "country:"_l1};
@@ -45,7 +46,7 @@ FieldTable offerFields(const Export &to, bool extended, std::optional<double> fa
     };
     const FieldTable tradeFields = {
         {QStringLiteral("barcode"), fullText, target::barcode, withoutTabs, withoutTabs},
-        {QStringLiteral("categoryId"), to.path, target::group},
+        {QStringLiteral("categoryId"), path, target::group},
         {QStringLiteral("price"), price, priceTarget},
         {QStringLiteral("vendor"), fullText, vendor, withoutTabs, withoutTabs},
     };

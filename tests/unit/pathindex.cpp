@@ -106,7 +106,7 @@ private slots:
         for (const QString name : {"old", "new"}) {
             QCOMPARE(probe.groupPath("1"), name);
             QCOMPARE(probe.ymlCategoryPath("1"), name);
-            for (QDomNode child :
+            for (const QDomNode &child :
                  {probe.groups.first().childNodes().at(1), probe.groups.first().childNodes().at(2)})
                 child.firstChild().setNodeValue("new");
             QVERIFY(probe.readStructure());
