@@ -167,8 +167,8 @@ const PathIndex::Node *PathIndex::visit(const QDomNode &first, int section)
 /// Marks the loop of a way that has come back to where it has been, if it has.
 void PathIndex::closeLoop(const QVector<Node *> &way)
 {
-    const auto end = way.cend() - 1;
-    const auto loop = std::find(way.cbegin(), end, way.last());
+    auto *const *const end = way.cend() - 1;
+    auto *const *const loop = std::find(way.cbegin(), end, way.last());
     // Where one has a name, the path begins elsewhere without those that have none.
     const bool isNamed = std::any_of(loop, end, hasName);
     std::for_each(loop, end, [=](Node *node) {
