@@ -9,6 +9,7 @@ set -euo pipefail
 . "$(dirname "$(readlink -f "$0")")/../scripts/setup.sh"
 
 expect_arguments 1 1 "$@"
+export LC_ALL=C.UTF-8
 install_packages unzip libxml2-utils
 zip=$(realpath "$1")
 work=$(mktemp -d)
