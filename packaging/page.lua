@@ -55,9 +55,10 @@ function Pandoc(page)
     local names_source = false
     blocks = blocks:walk({
         Link = function(link)
-            local path = named_file(link.target)
+            local name, place = link.target:match("^([^#]*)(.*)$")
+            local path = named_file((name:gsub("^%.%./", "")))
             local target = path and page_of(path)
-            link.target = target and address(target) or link.target
+            link.target = target and address(target) .. place or link.target
             return link
         end,
         Code = function(code)
