@@ -20,6 +20,17 @@ enum ExitCode {
     DocumentsNotExported = 3,
 };
 
+class JobReader : public CommXmlReader
+{
+public:
+    /// Keeps the document until the process ends: to take a million nodes apart would take a
+    /// twentieth of the run, for nothing.
+    void keepDocument() const
+    {
+        [[maybe_unused]] static const auto *const kept = new QDomDocument(document);
+    }
+};
+
 struct JobOptions {
     QString sourcePath;
     QString destinationPath;
@@ -65,9 +76,10 @@ JobOptions readOptions(const QList<QByteArray> &arguments)
 }
 
 /// Writes the exchange file. False if not all documents are in it, or there are none.
-bool writeExchangeFile(const QString &path, CommXmlReader &reader, int documentType)
+bool writeExchangeFile(const QString &path, JobReader &reader, int documentType)
 {
     try {
+        reader.keepDocument();
         reader.readStructure();
         reader.outputFileName = path;
         reader.outputEnabled = true;
@@ -96,7 +108,7 @@ ExitCode convert(const JobOptions &options)
             pauseForKey();
     };
 
-    CommXmlReader reader;
+    JobReader reader;
     if (!reader.loadSource(options.sourcePath)) {
         printMessage(QObject::tr("Error open input file %1!").arg(options.sourcePath), false);
         pauseAtEnd();
