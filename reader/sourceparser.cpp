@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "reader/sourceparser.h"
 
+#include "reader/quickreader.h"
+
 #include <QMap>
 #include <QSet>
 #include <QXmlDefaultHandler>
@@ -226,6 +228,17 @@ private:
 
 bool parseSource(QIODevice &device, QDomDocument &document)
 {
+    try {
+        // What can be read only once is left to the reader that reads everything.
+        if (!device.isSequential() && readQuickly(device, document, maximalNesting))
+            return true;
+    } catch (const std::bad_alloc &) {
+        document.clear();
+        return false;
+    }
+    if (!device.isSequential())
+        device.seek(0);
+
     Source source(&device);
     auto reader = std::make_unique<GuardedReader>(source);
     try {

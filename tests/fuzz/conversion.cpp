@@ -8,6 +8,7 @@
 #include "reader/sourceparser.h"
 
 #include <QBuffer>
+#include <QRegularExpression>
 
 namespace
 {
@@ -22,6 +23,10 @@ public:
         QBuffer buffer(&source);
         buffer.open(QIODevice::ReadOnly);
         if (!parseSource(buffer, document))
+            return false;
+        // The toolkit cuts references to characters to 16 bits.
+        static const QRegularExpression wide("&#(\\d{5,}|x[0-9A-Fa-f]{5,});");
+        if (QString::fromLatin1(source).contains(wide))
             return false;
         QDomDocument expected;
         if (!expected.setContent(source) || nodeTexts(document) != nodeTexts(expected))

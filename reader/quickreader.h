@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDomDocument>
+#include <QIODevice>
+
+/// Reads the XML of `device`, open for reading, into `document`, which is empty, where it is as
+/// plain as what trade applications export: elements, attributes, texts, CDATA sections, comments,
+/// instructions, references to characters and to entities that nobody has declared, an XML
+/// declaration, and a document type declaration without an internal subset.
+///
+/// False where it is anything else, is not well-formed or goes beyond `maximalNesting`: `document`
+/// is empty then, and another reader has to say what the source is.
+bool readQuickly(QIODevice &device, QDomDocument &document, int maximalNesting);

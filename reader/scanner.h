@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QIODevice>
+#include <QLatin1String>
+#include <QString>
+#include <QXmlInputSource>
+
+#include <array>
+
+/// Walks over the text of an XML source, in the encoding that it declares. Only a part of the text
+/// is there at a time.
+class Scanner
+{
+public:
+    /// `device` is open for reading, and outlives the scanner.
+    explicit Scanner(QIODevice &device);
+
+    /// Behind the end of the source; a source can hold it as well.
+    static constexpr QChar endOfSource = QChar(0);
+
+    /// The character that many ahead.
+    QChar at(int ahead)
+    {
+        const int index = position + ahead;
+        return index < text.size() || fetch(index) ? text.at(index) : endOfSource;
+    }
+
+    /// Whether all of the source has been passed.
+    bool isAtEnd();
+
+    /// Passes that many characters that at() has told.
+    void pass(int count) { position += count; }
+    QString take(int count);
+
+    /// Whether this word comes; if so, passes it.
+    bool skip(QLatin1String word);
+
+    /// Whether there were blanks to pass.
+    bool skipBlanks();
+
+    /// Passes what is plain text and none of these characters, and adds it to `value`.
+    void takePlain(QString &value, QChar end, QChar otherEnd, QChar thirdEnd);
+
+    /// Passes everything up to and with `end`, and adds what comes before it to `value`. False if
+    /// something comes that is not plain text.
+    bool takeUpTo(QLatin1String end, QString &value);
+
+    /// Passes a name; those that are the same share their text. False if there is none, or not one
+    /// of the letters that exports are made of.
+    bool takeName(QString &name);
+
+    /// Passes what comes behind a "&", and adds the character to `value`, or tells the name of an
+    /// entity that is none of the five that all documents have. False if it names no character.
+    bool takeReference(QString &value, QString &entity);
+
+    static bool startsName(QChar character);
+    static bool continuesName(QChar character);
+
+    /// Opening parentheses in what has been fetched until now.
+    int brackets() const { return bracketCount; }
+
+private:
+    bool fetch(int index);
+    void drop();
+
+    QIODevice &device;
+    QXmlInputSource source;
+    QString text;
+    int position = 0;
+    int bracketCount = 0;
+    std::array<QString, 256> names;
+};

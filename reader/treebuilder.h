@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDomDocument>
+#include <QDomElement>
+#include <QString>
+#include <QVector>
+
+/// Builds a document, as a reader comes to its parts from the first to the last.
+class TreeBuilder
+{
+public:
+    /// `document`, which is empty, outlives the builder.
+    explicit TreeBuilder(QDomDocument &document) : document(document) {}
+
+    /// The document type, of which no more is kept; ahead of all elements.
+    void documentType(const QString &name, const QString &systemId);
+
+    void startElement(const QString &name);
+
+    /// Of the element that was started last, ahead of all that is in it. Of two with one name the
+    /// last one stays.
+    void attribute(const QString &name, const QString &value);
+
+    void endElement();
+
+    /// Text that is nothing but white space gives no node.
+    void text(const QString &text);
+    void cdata(const QString &text);
+    void comment(const QString &text);
+    void processingInstruction(const QString &target, const QString &data);
+
+    /// A reference to an entity that nobody has declared.
+    void reference(const QString &entity);
+
+    int nesting() const { return open.size(); }
+
+    /// The name of the element that is open; empty if none is.
+    QString name() const { return open.isEmpty() ? QString() : open.last().tagName(); }
+
+private:
+    void append(const QDomNode &node);
+
+    QDomDocument &document;
+    QVector<QDomElement> open;
+};
