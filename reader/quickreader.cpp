@@ -7,7 +7,7 @@
 namespace
 {
 
-/// What the toolkit would refuse, or read more slowly than one by one.
+/// Below the limits of a source: what comes near them is for the other reader to judge.
 constexpr int maximalAttributes = 64;
 constexpr int maximalBrackets = 500;
 

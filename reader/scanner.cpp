@@ -119,11 +119,16 @@ bool Scanner::takeReference(QString &value, QString &entity)
         bool isNumber = false;
         const bool isHex = name.size() > 1 && name.at(1) == u'x';
         const QString digits = name.mid(isHex ? 2 : 1);
+        // The conversion would take blanks, signs and a prefix, too.
+        const bool isPlainNumber = std::all_of(digits.begin(), digits.end(), [=](QChar digit) {
+            return (digit >= u'0' && digit <= u'9') || (isHex && digit >= u'a' && digit <= u'f') ||
+                   (isHex && digit >= u'A' && digit <= u'F');
+        });
         const uint code = digits.toUInt(&isNumber, isHex ? 16 : 10);
         const bool isCharacter =
             code == u'\t' || code == u'\n' || code == u'\r' || (code >= 0x20 && code < 0xd800) ||
             (code >= 0xe000 && code < 0xfffe) || (code >= 0x10000 && code < 0x110000);
-        if (!isNumber || !digits.at(0).isLetterOrNumber() || !isCharacter)
+        if (!isPlainNumber || !isNumber || !isCharacter)
             return false;
         value += QString::fromUcs4(&code, 1);
         return true;
