@@ -9,9 +9,6 @@
 #include <cstddef>
 #include <fcntl.h>
 #include <iterator>
-#ifdef __GLIBC__
-#include <malloc.h>
-#endif
 #include <poll.h>
 #include <termios.h>
 #include <unistd.h>
@@ -102,11 +99,6 @@ private:
 
 void preparePlatform()
 {
-#ifdef __GLIBC__
-    // Large trees are freed several times faster without the bins for quick reuse: the allocator
-    // would merge them over and over while the tree goes.
-    mallopt(M_MXFAST, 0);
-#endif
     // A standard stream that came closed would give its number to the next file that is opened, and
     // a pause would wait for that.
     for (const int standardStream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {

@@ -210,9 +210,8 @@ private:
         QString target;
         QString data = QLatin1String("");
         if (!scanner.takeName(target) ||
-            target.compare(QLatin1String("xml"), Qt::CaseInsensitive) == 0 || !scanner.skipBlanks())
-            return false;
-        if (!scanner.takeUpTo(QLatin1String("?>"), data))
+            target.compare(QLatin1String("xml"), Qt::CaseInsensitive) == 0 ||
+            !scanner.skipBlanks() || !scanner.takeUpTo(QLatin1String("?>"), data))
             return false;
         builder.processingInstruction(target, data);
         return true;
@@ -226,10 +225,9 @@ private:
             !scanner.takeName(name))
             return false;
         hasDoctype = true;
-        if (scanner.skip(QLatin1String(" SYSTEM \""))) {
-            if (!scanner.takeUpTo(QLatin1String("\""), address))
-                return false;
-        }
+        if (scanner.skip(QLatin1String(" SYSTEM \"")) &&
+            !scanner.takeUpTo(QLatin1String("\""), address))
+            return false;
         scanner.skipBlanks();
         if (scanner.at(0) != u'>')
             return false;

@@ -70,7 +70,11 @@ void Scanner::takePlain(QString &value, QChar end, QChar otherEnd, QChar thirdEn
             drop();
         }
     }
-    value += text.midRef(position, length);
+    // What is appended to grows in steps, and most texts are all in one piece.
+    if (value.isEmpty() && length > 0)
+        value = text.mid(position, length);
+    else
+        value += text.midRef(position, length);
     position += length;
 }
 

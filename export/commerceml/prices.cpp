@@ -43,10 +43,10 @@ FieldValues readPrices(const Export &to, const ChildLookup &offer, std::optional
     for (const QDomElement &price : ChildElements(list, QStringLiteral("Цена"))) {
         const QDomElement unitPrice = price.firstChildElement(unitPriceElement);
         if (rowCode == std::end(priceRowCodes)) {
-            isDropped = !unitPrice.isNull();
-            if (isDropped)
-                break;
-            continue;
+            if (unitPrice.isNull())
+                continue;
+            isDropped = true;
+            break;
         }
         if (!unitPrice.isNull()) {
             const QString text = textOf(unitPrice);
