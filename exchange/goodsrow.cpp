@@ -9,11 +9,6 @@ constexpr QLatin1String rowPrefix = "##\t"_l1;
 constexpr QLatin1String htmlCode = "DISHTML"_l1;
 constexpr QLatin1String descriptionMarker = "-----"_l1;
 
-static int fieldSize(QLatin1String rowCode, const QString &value)
-{
-    return 2 + rowCode.size() + value.size();
-}
-
 static void addField(QString &row, QLatin1String rowCode, const QString &value)
 {
     row += tab;
@@ -24,13 +19,9 @@ static void addField(QString &row, QLatin1String rowCode, const QString &value)
 
 QString goodsRow(const QString &goodsCode, bool prefixed, const FieldValues &values)
 {
-    // Rows stay in memory to the end of the run: growing piece by piece would leave room unused.
-    int size = rowPrefix.size() + goodsCode.size() + fieldSize(htmlCode, QStringLiteral("1"));
-    for (const FieldValue &value : values)
-        size += fieldSize(value.target.rowCode, value.rowText);
-
+    constexpr int usualRow = 1'000;
     QString row;
-    row.reserve(size);
+    row.reserve(usualRow);
     if (prefixed)
         row += rowPrefix;
     row += goodsCode;
@@ -43,13 +34,12 @@ QString goodsRow(const QString &goodsCode, bool prefixed, const FieldValues &val
 
 void appendGoodsRow(QStringList &goodsRows, QString row, const QString &description, HtmlMark mark)
 {
-    if (description.isEmpty()) {
-        goodsRows.append(row);
-        return;
-    }
-    if (mark != HtmlMark::None)
+    if (!description.isEmpty() && mark != HtmlMark::None)
         addField(row, htmlCode, QString::number(mark == HtmlMark::Html ? 1 : 0));
-    goodsRows << row << descriptionMarker << description << descriptionMarker;
+    row.squeeze(); // rows stay in memory to the end of the run
+    goodsRows.append(row);
+    if (!description.isEmpty())
+        goodsRows << descriptionMarker << description << descriptionMarker;
 }
 
 } // namespace exchange

@@ -33,21 +33,4 @@ void Writer::writeLine(QLatin1String key, const QString &value)
         digest->addData(line);
 }
 
-void Writer::writeFields(const FieldValues &values)
-{
-    for (const FieldValue &value : values) {
-        if (!value.target.key.isEmpty())
-            writeLine(value.target.key, value.lineText);
-    }
-}
-
-void Writer::writeText(const QString &text)
-{
-    if (text.isEmpty())
-        return;
-    writeLine(freeText.begin);
-    writeLine({}, text);
-    writeLine(freeText.end);
-}
-
 } // namespace exchange

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The lines and blocks of the exchange file, on their way into it.
+// The lines of the exchange file, on their way into it.
 #pragma once
 
 #include "exchange/format.h"
@@ -32,12 +32,6 @@ public:
 
     /// A line of `key` and `value`.
     void writeLine(QLatin1String key, const QString &value = QString());
-
-    /// A line for each of `values` that has a key.
-    void writeFields(const FieldValues &values);
-
-    /// `text` between its marker lines; nothing if it is empty.
-    void writeText(const QString &text);
 
     /// Whether a line since begin() is not, or not whole, in the file.
     bool hasFailed() const { return failed; }

@@ -28,8 +28,15 @@ void Export::item(const Item &item, const Block &block, QLatin1String codeKey) c
     writer.writeLine(block.begin);
     if (!codeKey.isEmpty())
         writer.writeLine(codeKey, item.code);
-    writer.writeFields(item.values);
-    writer.writeText(item.text);
+    for (const FieldValue &value : item.values) {
+        if (!value.target.key.isEmpty())
+            writer.writeLine(value.target.key, value.lineText);
+    }
+    if (!item.text.isEmpty()) {
+        writer.writeLine(freeText.begin);
+        writer.writeLine({}, item.text);
+        writer.writeLine(freeText.end);
+    }
     writer.writeLine(block.end);
     if (observer != nullptr)
         observer->exported(item);

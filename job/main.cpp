@@ -87,16 +87,10 @@ bool writeExchangeFile(const QString &path, JobReader &reader, int documentType)
         reader.outputEnabled = true;
         reader.openOutput();
 
-        const bool prefixRows = false;
-        const bool withDescription = true;
-        const bool markHtml = true;
-        const bool extendedOffers = true;
-        const bool applyFactor = false;
-        const bool withGoods = true;
-        reader.exportKatalogs(prefixRows, withDescription, markHtml);
-        reader.exportPrices(prefixRows, withDescription, markHtml, extendedOffers, applyFactor,
-                            1.0);
-        return reader.exportDocs(withGoods, documentType);
+        reader.exportKatalogs(/*prefixRows=*/false, /*withDescription=*/true, /*markHtml=*/true);
+        reader.exportPrices(/*prefixRows=*/false, /*withDescription=*/true, /*markHtml=*/true,
+                            /*extendedOffers=*/true, /*applyFactor=*/false, /*priceFactor=*/1.0);
+        return reader.exportDocs(/*withGoods=*/true, documentType);
     } catch (const std::bad_alloc &) {
         reader.closeOutput(); // which makes room for the message; the lines so far stay
         return false;

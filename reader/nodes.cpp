@@ -37,11 +37,9 @@ QDomNode CommXmlReader::findElementByAttribute(const QDomNode &parent, const QSt
                                                const QString &attribute, const QString &value)
 {
     for (QDomNode child = parent.firstChild(); !child.isNull(); child = child.nextSibling()) {
-        QDomElement element = child.toElement();
-        if (element.isNull() || element.tagName() != tag)
-            continue;
-        const QDomAttr attributeNode = element.attributeNode(attribute);
-        if (!attributeNode.isNull() && attributeNode.value() == value)
+        const QDomElement element = child.toElement();
+        if (!element.isNull() && element.tagName() == tag && element.hasAttribute(attribute) &&
+            element.attribute(attribute) == value)
             return child;
     }
     return {};

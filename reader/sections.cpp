@@ -2,25 +2,10 @@
 #include "reader/commxmlreader.h"
 
 #include <QCoreApplication>
+#include <QMap>
 
 #include <algorithm>
 #include <iterator>
-
-namespace
-{
-
-struct DialectRoot {
-    QString name; // in lower case
-    SourceDialect dialect;
-};
-
-const DialectRoot dialectRoots[] = {
-    {QStringLiteral("коммерческаяинформация"), CommerceMlDialect},
-    {QStringLiteral("yml_catalog"), YmlDialect},
-    {QStringLiteral("xml_catalog"), YmlDialect},
-};
-
-} // namespace
 
 bool CommXmlReader::readStructure()
 {
@@ -32,11 +17,12 @@ bool CommXmlReader::readStructure()
     if (rootElement.isNull())
         return false;
 
-    const QString rootName = rootElement.tagName().toLower();
-    const auto *root = std::find_if(std::begin(dialectRoots), std::end(dialectRoots),
-                                    [&](const DialectRoot &r) { return r.name == rootName; });
-    if (root != std::end(dialectRoots))
-        dialect = root->dialect;
+    static const QMap<QString, SourceDialect> dialects = {
+        {QStringLiteral("коммерческаяинформация"), CommerceMlDialect},
+        {QStringLiteral("yml_catalog"), YmlDialect},
+        {QStringLiteral("xml_catalog"), YmlDialect},
+    };
+    dialect = dialects.value(rootElement.tagName().toLower(), dialect);
 
     collectSections(rootElement);
     goodsRows.clear();

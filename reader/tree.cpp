@@ -21,3 +21,12 @@ QString textOf(const QDomNode &element)
     appendTexts(text, element);
     return text;
 }
+
+QVector<QDomElement> childElements(const QDomNode &parent, const QString &name)
+{
+    QVector<QDomElement> elements;
+    for (QDomElement element = parent.firstChildElement(name); !element.isNull();
+         element = element.nextSiblingElement(name))
+        elements.append(element);
+    return elements;
+}

@@ -6,6 +6,7 @@
 #include <QDomElement>
 #include <QString>
 #include <QVarLengthArray>
+#include <QVector>
 
 #include <utility>
 
@@ -13,45 +14,9 @@
 /// of QDomElement::text(), which copies a text once more for each level that it lies below.
 QString textOf(const QDomNode &element);
 
-/// The direct child elements of a node that bear exactly one name, in document order, for a
-/// range-for. A null node has none.
-class ChildElements
-{
-public:
-    ChildElements(const QDomNode &parent, QString name)
-        : first(parent.firstChildElement(name)), name(std::move(name))
-    {
-    }
-
-    class Iterator
-    {
-    public:
-        Iterator(const QDomElement &element, QString name) : element(element), name(std::move(name))
-        {
-        }
-
-        const QDomElement &operator*() const { return element; }
-        bool operator!=(const Iterator &other) const { return element != other.element; }
-        Iterator &operator++()
-        {
-            element = element.nextSiblingElement(name);
-            return *this;
-        }
-
-    private:
-        QDomElement element;
-        QString name;
-    };
-
-    bool isEmpty() const { return first.isNull(); }
-
-    Iterator begin() const { return {first, name}; }
-    Iterator end() const { return {QDomElement(), name}; }
-
-private:
-    QDomElement first;
-    QString name;
-};
+/// The direct child elements of a node that bear exactly this name, in document order. A null node
+/// has none.
+QVector<QDomElement> childElements(const QDomNode &parent, const QString &name);
 
 /// The child elements of one node, for many lookups by name. They are walked over once: a walk
 /// through the document costs far more than a comparison of names.
@@ -68,18 +33,13 @@ public:
     /// The first child element of exactly this name; null if there is none.
     QDomElement first(const QString &name) const
     {
-        for (const Child &child : children) {
-            if (child.name == name)
-                return child.element;
+        for (const auto &[childName, child] : children) {
+            if (childName == name)
+                return child;
         }
         return {};
     }
 
 private:
-    struct Child {
-        QString name;
-        QDomElement element;
-    };
-
-    QVarLengthArray<Child, 32> children;
+    QVarLengthArray<std::pair<QString, QDomElement>, 32> children; // with their names
 };

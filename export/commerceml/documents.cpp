@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "export/commerceml/goods.h"
 #include "export/commerceml/walks.h"
 #include "reader/commxmlreader.h"
 #include "reader/tree.h"
 #include "reader/vocabulary.h"
 
-#include <algorithm>
-#include <iterator>
+#include <QMap>
 
 using namespace commerceml;
 using namespace exporter;
@@ -15,12 +13,7 @@ namespace
 {
 
 /// The partner of a document is the one on the other side of the deal.
-struct PartnerRole {
-    int documentType;
-    QString role;
-};
-
-const PartnerRole partnerRoles[] = {
+const QMap<int, QString> partnerRoles = {
     {1, QStringLiteral("Покупатель")},
     {0, QStringLiteral("Продавец")},
 };
@@ -29,10 +22,8 @@ const PartnerRole partnerRoles[] = {
 bool isWanted(const QDomElement &partner, int documentType)
 {
     const QDomElement role = partner.firstChildElement(QStringLiteral("Роль"));
-    const auto *wanted =
-        std::find_if(std::begin(partnerRoles), std::end(partnerRoles),
-                     [=](const PartnerRole &r) { return r.documentType == documentType; });
-    return wanted == std::end(partnerRoles) || role.isNull() || textOf(role) == wanted->role;
+    return role.isNull() || !partnerRoles.contains(documentType) ||
+           textOf(role) == partnerRoles.value(documentType);
 }
 
 /// The partner of a document; null if it has none. Only the first two partners are looked at: the

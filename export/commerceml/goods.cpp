@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "export/commerceml/goods.h"
+#include "export/commerceml/walks.h"
 
 #include "reader/vocabulary.h"
 
@@ -22,8 +22,7 @@ static const QString articleElement = QStringLiteral("Артикул");
 static const QString barcodeElement = QStringLiteral("Штрихкод");
 static const QString unitElement = QStringLiteral("БазоваяЕдиница");
 
-/// Catalogues and price packages differ in how a name is cleaned for the goods row.
-static FieldTable goodsFields(Cleaning nameCleaning, const Export &to)
+FieldTable goodsFields(const Export &to, Cleaning nameCleaning)
 {
     return {
         {articleElement, fullText, target::article, withoutTabs},
@@ -32,16 +31,6 @@ static FieldTable goodsFields(Cleaning nameCleaning, const Export &to)
         {groupsElement, pathOfFirstGroup(to), target::group},
         {unitElement, ownText, target::unit},
     };
-}
-
-FieldTable catalogueGoodsFields(const Export &to)
-{
-    return goodsFields(withoutTabs, to);
-}
-
-FieldTable packageOfferFields(const Export &to)
-{
-    return goodsFields(withoutBrackets, to);
 }
 
 FieldTable orderGoodsFields(const Export &to)
@@ -60,7 +49,7 @@ void exportGoods(const QList<QDomNode> &sections, const GoodsPlace &place, const
 {
     for (const QDomNode &section : sections) {
         const QDomElement list = section.firstChildElement(place.list);
-        for (const QDomElement &element : ChildElements(list, place.element)) {
+        for (const QDomElement &element : childElements(list, place.element)) {
             const ChildLookup goods(element);
             const QDomElement id = goods.first(idElement);
             if (id.isNull()) {

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "export/commerceml/goods.h"
 #include "export/commerceml/walks.h"
 #include "reader/commxmlreader.h"
 #include "reader/tree.h"
@@ -10,7 +9,7 @@ using namespace exporter;
 void commerceml::exportKatalogs(const QList<QDomNode> &katalogs, const Export &to,
                                 const GoodsOptions &options)
 {
-    const FieldTable fields = catalogueGoodsFields(to);
+    const FieldTable fields = goodsFields(to, exchange::withoutTabs);
     exportGoods(katalogs, {goodsListElement, goodsElement, ItemKind::Good}, to, options,
                 [&](const ChildLookup &goods) { return readFields(goods, fields); });
 }

@@ -31,7 +31,7 @@ void commerceml::exportOrderHead(const QDomElement &doc, const Export &to, int d
                    readFields(head, orderFields);
 
     const QDomElement list = head.first(QStringLiteral("ЗначенияРеквизитов"));
-    for (const QDomElement &requisite : ChildElements(list, QStringLiteral("ЗначениеРеквизита"))) {
+    for (const QDomElement &requisite : childElements(list, QStringLiteral("ЗначениеРеквизита"))) {
         const QString name = textOf(requisite.firstChildElement(nameElement));
         const QString value = textOf(requisite.firstChildElement(valueElement));
         if (name.isEmpty() || value.isEmpty())

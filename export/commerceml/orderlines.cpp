@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "export/commerceml/goods.h"
 #include "export/commerceml/walks.h"
 #include "reader/commxmlreader.h"
 #include "reader/tree.h"
@@ -19,9 +18,9 @@ const FieldTable itemFields = {
     {unitPriceElement, fullText, lineOnly(priceKey)},
 };
 
-ChildElements orderLines(const QDomNode &doc)
+QVector<QDomElement> orderLines(const QDomNode &doc)
 {
-    return {doc.firstChildElement(goodsListElement), goodsElement};
+    return childElements(doc.firstChildElement(goodsListElement), goodsElement);
 }
 
 } // namespace
@@ -29,22 +28,20 @@ ChildElements orderLines(const QDomNode &doc)
 bool commerceml::exportOrderLines(const QDomElement &doc, const Export &to, bool withGoods,
                                   const FieldTable &goodsFields)
 {
-    const ChildElements lines = orderLines(doc);
+    const QVector<QDomElement> lines = orderLines(doc);
     if (lines.isEmpty())
         return false;
     for (const QDomElement &element : lines) {
         const ChildLookup line(element);
-        QString code;
-        if (withGoods) {
-            const QDomElement id = line.first(idElement);
-            if (id.isNull()) {
-                to.leftOut(ItemKind::OrderLine, element, Loss::NoCode);
-                continue;
-            }
-            code = textOf(id);
+        const QDomElement id = line.first(idElement);
+        if (withGoods && id.isNull()) {
+            to.leftOut(ItemKind::OrderLine, element, Loss::NoCode);
+            continue;
+        }
+        const QString code = withGoods ? textOf(id) : QString();
+        if (withGoods)
             to.item({ItemKind::OrderGood, element, code, readFields(line, goodsFields), {}},
                     goodsBlock);
-        }
         to.item({ItemKind::OrderLine, element, code, readFields(line, itemFields), {}}, itemBlock,
                 {});
     }
@@ -54,7 +51,7 @@ bool commerceml::exportOrderLines(const QDomElement &doc, const Export &to, bool
 
 bool CommXmlReader::collectDocumentRows(bool withGoods)
 {
-    const ChildElements lines = orderLines(docs.value(0));
+    const QVector<QDomElement> lines = orderLines(docs.value(0));
     if (lines.isEmpty())
         return false;
     constexpr bool prefixed = true;
@@ -63,15 +60,12 @@ bool CommXmlReader::collectDocumentRows(bool withGoods)
     const FieldTable goodsFields = orderGoodsFields(to);
     for (const QDomElement &element : lines) {
         const ChildLookup line(element);
-        QString code;
-        if (withGoods) {
-            const QDomElement id = line.first(idElement);
-            if (id.isNull())
-                continue;
-            code = textOf(id);
-            const FieldValues values = readFields(line, goodsFields);
-            goodsRows.append(goodsRow(code, prefixed, values));
-        }
+        const QDomElement id = line.first(idElement);
+        if (withGoods && id.isNull())
+            continue;
+        const QString code = withGoods ? textOf(id) : QString();
+        if (withGoods)
+            goodsRows.append(goodsRow(code, prefixed, readFields(line, goodsFields)));
         // The quantity brings its tab along: without it the price takes its place.
         QString row = code + QLatin1Char('\t');
         const QDomElement quantity = line.first(quantityElement);

@@ -50,7 +50,7 @@ FieldValues readContacts(const QDomElement &partner)
     FieldValues values;
     const auto *phoneKey = std::begin(phoneKeys);
     const QDomElement list = partner.firstChildElement(QStringLiteral("Контакты"));
-    for (const QDomElement &contact : ChildElements(list, QStringLiteral("Контакт"))) {
+    for (const QDomElement &contact : childElements(list, QStringLiteral("Контакт"))) {
         const QDomElement value = contact.firstChildElement(valueElement);
         if (value.isNull())
             continue;

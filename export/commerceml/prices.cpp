@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "export/commerceml/goods.h"
 #include "export/commerceml/walks.h"
 #include "reader/commxmlreader.h"
 #include "reader/tree.h"
@@ -40,7 +39,7 @@ FieldValues readPrices(const Export &to, const ChildLookup &offer, std::optional
     const auto *rowCode = std::begin(priceRowCodes);
     bool isDropped = false;
     const QDomElement list = offer.first(QStringLiteral("Цены"));
-    for (const QDomElement &price : ChildElements(list, QStringLiteral("Цена"))) {
+    for (const QDomElement &price : childElements(list, QStringLiteral("Цена"))) {
         const QDomElement unitPrice = price.firstChildElement(unitPriceElement);
         if (rowCode == std::end(priceRowCodes)) {
             if (unitPrice.isNull())
@@ -79,7 +78,7 @@ FieldValues readPrices(const Export &to, const ChildLookup &offer, std::optional
 void commerceml::exportPrices(const QList<QDomNode> &prices, const Export &to,
                               const GoodsOptions &options)
 {
-    const FieldTable fields = packageOfferFields(to);
+    const FieldTable fields = goodsFields(to, withoutBrackets);
     exportGoods(prices,
                 {QStringLiteral("Предложения"), QStringLiteral("Предложение"), ItemKind::Offer}, to,
                 options, [&](const ChildLookup &offer) {

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 //
-// The walks of the CommerceML exports, each in a file of its name.
+// The walks of the CommerceML exports, each in a file of its name, with their steps.
 #pragma once
 
 #include "export/export.h"
 
 #include <QDomNode>
 #include <QList>
+
+#include <functional>
 
 namespace commerceml
 {
@@ -36,5 +38,26 @@ void exportOrderHead(const QDomElement &doc, const exporter::Export &to, int doc
 /// there are no lines.
 bool exportOrderLines(const QDomElement &doc, const exporter::Export &to, bool withGoods,
                       const exporter::FieldTable &goodsFields);
+
+// Goods stand in catalogues, price packages and orders. A table is for one export. In goods.cpp.
+
+/// A "Товар" of a "Каталог", or a "Предложение" of a "ПакетПредложений", its prices excepted. They
+/// differ in how a name is cleaned for the goods row.
+exporter::FieldTable goodsFields(const exporter::Export &to, exchange::Cleaning nameCleaning);
+
+/// A "Товар" of a "Документ".
+exporter::FieldTable orderGoodsFields(const exporter::Export &to);
+
+/// Where goods stand in a section.
+struct GoodsPlace {
+    QString list; ///< the element that holds them, the first of its name
+    QString element;
+    exporter::ItemKind kind;
+};
+
+/// Exports the goods of sections, each with the values that `read` gives.
+void exportGoods(const QList<QDomNode> &sections, const GoodsPlace &place,
+                 const exporter::Export &to, const exporter::GoodsOptions &options,
+                 const std::function<exchange::FieldValues(const ChildLookup &goods)> &read);
 
 } // namespace commerceml

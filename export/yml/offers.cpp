@@ -62,18 +62,6 @@ FieldTable offerFields(const Export &to, bool extended, std::optional<double> fa
                     : typeFields + plainName + tradeFields;
 }
 
-/// Empty if the offer has none.
-QString description(const ChildLookup &offer)
-{
-    return textOf(offer.first(QStringLiteral("description")));
-}
-
-/// An extended offer tells that nothing of the good is left.
-bool isSoldOut(const ChildLookup &offer)
-{
-    return textOf(offer.first(QStringLiteral("count"))) == QLatin1String("0");
-}
-
 } // namespace
 
 void yml::exportOffers(const QList<QDomNode> &prices, const Export &to, const GoodsOptions &options,
@@ -83,21 +71,22 @@ void yml::exportOffers(const QList<QDomNode> &prices, const Export &to, const Go
     const QString piece = QStringLiteral("шт"); // no element tells the unit
 
     for (const QDomNode &section : prices) {
-        for (const QDomElement &element : ChildElements(section, QStringLiteral("offer"))) {
+        for (const QDomElement &element : childElements(section, QStringLiteral("offer"))) {
             const QString code = CommXmlReader::attributeValue(element, QStringLiteral("id"));
             if (code.isEmpty()) {
                 to.leftOut(ItemKind::Offer, element, Loss::NoCode);
                 continue;
             }
             const ChildLookup offer(element);
-            const bool soldOut = extended && isSoldOut(offer);
+            const bool soldOut =
+                extended && textOf(offer.first(QStringLiteral("count"))) == QLatin1String("0");
             Item item = {ItemKind::Offer, element, code, readFields(offer, fields), {}};
             if (soldOut)
                 to.doubted(element, Doubt::SoldOut);
             else if (extended)
                 item.values.append({target::unit, piece, piece});
             if (options.withDescription && !soldOut)
-                item.text = description(offer);
+                item.text = textOf(offer.first(QStringLiteral("description")));
             to.goods(item, options, !soldOut);
 
             const QDomElement picture = offer.first(QStringLiteral("picture"));
