@@ -20,6 +20,8 @@ class Observer;
 struct Export;
 } // namespace exporter
 
+struct Loading;
+
 /// The kind of a source, told by the name of its root element.
 enum SourceDialect : int {
     UndeterminedDialect = -1,
@@ -161,7 +163,11 @@ public:
     /// exportPrices() on the clipboard.
     void runDiagnostics();
 
-    // --- Observer: export/observer.h ------------------------------------------------------------
+    // --- For hosts that tell people: reader/loading.h, export/observer.h -------------------------
+
+    /// Has all loads from now on follow `newLoading`, which must outlive that. Null, as it is at
+    /// first: nobody does.
+    void setLoading(Loading *newLoading) { loading = newLoading; }
 
     /// Has `newObserver`, which must outlive that, hear of all that the exporters do from now on.
     /// Null, as it is at first: nobody does. Of documents it hears only while the exchange file is
@@ -183,6 +189,7 @@ protected:
     QString pathBuffer;       ///< the latest path built
     SourceDialect dialect = UndeterminedDialect;
 
+    Loading *loading = nullptr;
     exporter::Observer *observer = nullptr;
     exchange::Writer writer{outputFile, outputEnabled}; ///< the one way into the exchange file
     PathIndex groupIndex{groupPaths};                   ///< over groups, for CommerceML

@@ -17,6 +17,14 @@ void CommXmlReader::logMessage(const QString &text)
                       QLatin1Char('"') + text + QLatin1String("\" "));
 }
 
+static void tell(Loading *loading, LoadFailure failure, const QFile &file)
+{
+    if (loading != nullptr) {
+        loading->failure = failure;
+        loading->message = file.errorString();
+    }
+}
+
 bool CommXmlReader::loadSource(const QString &path)
 {
     rootElement.clear();
@@ -26,10 +34,13 @@ bool CommXmlReader::loadSource(const QString &path)
     QCoreApplication::processEvents(QEventLoop::AllEvents);
 
     if (!sourceFile.open(QIODevice::ReadOnly)) {
+        tell(loading, LoadFailure::NotOpened, sourceFile);
         logMessage(QStringLiteral("Error open in file: %1 ").arg(path));
         return false;
     }
-    const bool parsed = parseSource(sourceFile, document);
+    const bool parsed = parseSource(sourceFile, document, loading);
+    if (!parsed && sourceFile.error() == QFileDevice::ReadError)
+        tell(loading, LoadFailure::NotRead, sourceFile);
     sourceFile.close();
     if (!parsed) {
         logMessage(QStringLiteral("Error parce XML file: %1 ").arg(path));

@@ -1,24 +1,22 @@
 // SPDX-License-Identifier: MIT
 #include "reader/quickreader.h"
 
+#include "reader/limits.h"
 #include "reader/scanner.h"
 #include "reader/treebuilder.h"
 
 namespace
 {
 
-/// Below the limits of a source: what comes near them is for the other reader to judge.
-constexpr int maximalAttributes = 64;
-constexpr int maximalBrackets = 500;
-
 /// Walks over the decoded text. Each operation that returns a bool gives up with false, at the
 /// first thing that is not plain.
 class QuickReader
 {
 public:
-    QuickReader(QIODevice &device, QDomDocument &document, int maximalNesting)
-        : scanner(device), builder(document), maximalNesting(maximalNesting)
+    QuickReader(QIODevice &device, QDomDocument &document, Loading &loading)
+        : loading(loading), scanner(device, loading), builder(document)
     {
+        loading.positionsAreEnds = false;
     }
 
     bool read()
@@ -92,7 +90,6 @@ private:
                 return false;
             if (!entity.isEmpty()) {
                 builder.text(value);
-                builder.reference(entity);
                 value.clear();
             }
         }
@@ -118,16 +115,18 @@ private:
 
     bool readStartTag()
     {
-        if ((hasRoot && builder.nesting() == 0) || builder.nesting() == maximalNesting ||
-            (!hasRoot && scanner.brackets() > maximalBrackets))
+        if ((hasRoot && builder.nesting() == 0) || builder.nesting() == limits::nesting)
             return false;
         hasRoot = true;
+        scanner.leaveProlog();
+        if (loading.wantsPositions)
+            loading.positions.append(scanner.place());
         scanner.pass(1);
         QString name;
         if (!scanner.takeName(name))
             return false;
         builder.startElement(name);
-        for (int attributes = 0; attributes <= maximalAttributes; ++attributes) {
+        for (int attributes = 0; attributes <= limits::attributes; ++attributes) {
             const bool isApart = scanner.skipBlanks();
             if (scanner.at(0) == u'>') {
                 scanner.pass(1);
@@ -232,23 +231,19 @@ private:
         if (scanner.at(0) != u'>')
             return false;
         scanner.pass(1);
-        builder.documentType(name, address);
         return true;
     }
 
+    Loading &loading;
     Scanner scanner;
     TreeBuilder builder;
-    const int maximalNesting;
     bool hasRoot = false;
     bool hasDoctype = false;
 };
 
 } // namespace
 
-bool readQuickly(QIODevice &device, QDomDocument &document, int maximalNesting)
+bool readQuickly(QIODevice &device, QDomDocument &document, Loading &loading)
 {
-    if (QuickReader(device, document, maximalNesting).read())
-        return true;
-    document.clear();
-    return false;
+    return QuickReader(device, document, loading).read();
 }

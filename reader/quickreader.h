@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "reader/loading.h"
+
 #include <QDomDocument>
 #include <QIODevice>
 
@@ -9,6 +11,6 @@
 /// instructions, references to characters and to entities that nobody has declared, an XML
 /// declaration, and a document type declaration without an internal subset.
 ///
-/// False where it is anything else, is not well-formed or goes beyond `maximalNesting`: `document`
-/// is empty then, and another reader has to say what the source is.
-bool readQuickly(QIODevice &device, QDomDocument &document, int maximalNesting);
+/// False where it is anything else, is not well-formed, goes beyond a limit or is stopped. Only of
+/// the latter two can `loading` tell: another reader has to say what the source is.
+bool readQuickly(QIODevice &device, QDomDocument &document, Loading &loading);

@@ -4,9 +4,6 @@
 #include <algorithm>
 #include <utility>
 
-// The toolkit calls its own source of decoded text deprecated.
-QT_WARNING_DISABLE_DEPRECATED
-
 /// Decoded ahead, in characters: what the caches of a processor hold.
 static constexpr int usualStep = 1 << 14;
 
@@ -25,13 +22,16 @@ static bool isPlain(QChar character)
     return c >= 0x20 ? c < 0xfffe : isBlank(character);
 }
 
-Scanner::Scanner(QIODevice &device) : device(device), source(&device) {}
+Scanner::Scanner(QIODevice &device, Loading &loading)
+    : source(device, loading), countsPlaces(loading.wantsPositions)
+{
+}
 
 bool Scanner::isAtEnd()
 {
     if (position > usualStep)
         drop();
-    return position == text.size() && !fetch(position) && device.atEnd();
+    return position == text.size() && !fetch(position) && source.isAtEnd();
 }
 
 QString Scanner::take(int count)
@@ -44,7 +44,8 @@ QString Scanner::take(int count)
 bool Scanner::skip(QLatin1String word)
 {
     at(word.size() - 1);
-    const bool isThere = text.midRef(position, word.size()) == word;
+    const bool isThere = text.size() - position >= word.size() &&
+                         QStringView(text).mid(position, word.size()) == word;
     if (isThere)
         position += word.size();
     return isThere;
@@ -74,7 +75,7 @@ void Scanner::takePlain(QString &value, QChar end, QChar otherEnd, QChar thirdEn
     if (value.isEmpty() && length > 0)
         value = text.mid(position, length);
     else
-        value += text.midRef(position, length);
+        value.append(text.constData() + position, length);
     position += length;
 }
 
@@ -99,7 +100,7 @@ bool Scanner::takeName(QString &name)
     int length = 1;
     while (continuesName(at(length)))
         ++length;
-    const QStringRef found = text.midRef(position, length);
+    const QStringView found = QStringView(text).mid(position, length);
     const auto mark = static_cast<unsigned>(length * 31 + found.at(0).unicode() * 7 +
                                             found.at(length - 1).unicode());
     QString &known = names[mark % names.size()];
@@ -175,15 +176,30 @@ bool Scanner::fetch(int index)
         const QString piece = source.data();
         if (piece.isEmpty())
             break;
-        bracketCount += piece.count(u'(');
         text += piece;
     }
     return index < text.size();
 }
 
+SourcePosition Scanner::place()
+{
+    for (; countedPosition < position; ++countedPosition) {
+        const QChar passed = text.at(countedPosition);
+        if (passed == u'\r' || (passed == u'\n' && lastCounted != u'\r'))
+            counted = {counted.line + 1, 1};
+        else if (passed != u'\n' && !passed.isLowSurrogate())
+            ++counted.column;
+        lastCounted = passed;
+    }
+    return counted;
+}
+
 /// Forgets what has been passed.
 void Scanner::drop()
 {
+    if (countsPlaces)
+        place();
     text.remove(0, position);
     position = 0;
+    countedPosition = 0;
 }

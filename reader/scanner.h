@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "reader/source.h"
+
 #include <QIODevice>
 #include <QLatin1String>
 #include <QString>
-#include <QXmlInputSource>
 
 #include <array>
 
@@ -13,8 +14,8 @@
 class Scanner
 {
 public:
-    /// `device` is open for reading, and outlives the scanner.
-    explicit Scanner(QIODevice &device);
+    /// `device` is open for reading. Both outlive the scanner.
+    Scanner(QIODevice &device, Loading &loading);
 
     /// Behind the end of the source; a source can hold it as well.
     static constexpr QChar endOfSource = QChar(0);
@@ -57,17 +58,22 @@ public:
     static bool startsName(QChar character);
     static bool continuesName(QChar character);
 
-    /// Opening parentheses in what has been fetched until now.
-    int brackets() const { return bracketCount; }
+    /// To be told at the root element.
+    void leaveProlog() { source.leaveProlog(); }
+
+    /// Where the next character stands; only if whoever follows the load wants positions.
+    SourcePosition place();
 
 private:
     bool fetch(int index);
     void drop();
 
-    QIODevice &device;
-    QXmlInputSource source;
+    Source source;
     QString text;
     int position = 0;
-    int bracketCount = 0;
+    const bool countsPlaces;
+    SourcePosition counted{1, 1}; // of the character at:
+    int countedPosition = 0;
+    QChar lastCounted;
     std::array<QString, 256> names;
 };

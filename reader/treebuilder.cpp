@@ -3,15 +3,6 @@
 
 #include <algorithm>
 
-void TreeBuilder::documentType(const QString &name, const QString &systemId)
-{
-    // Only a new document can have one.
-    QDomDocument typed(QDomImplementation().createDocumentType(name, {}, systemId));
-    for (QDomNode child = document.firstChild(); !child.isNull(); child = child.nextSibling())
-        typed.appendChild(typed.importNode(child, true));
-    document = typed;
-}
-
 void TreeBuilder::startElement(const QString &name)
 {
     const QDomElement element = document.createElement(name);
@@ -49,11 +40,6 @@ void TreeBuilder::comment(const QString &text)
 void TreeBuilder::processingInstruction(const QString &target, const QString &data)
 {
     append(document.createProcessingInstruction(target, data));
-}
-
-void TreeBuilder::reference(const QString &entity)
-{
-    append(document.createEntityReference(entity));
 }
 
 void TreeBuilder::append(const QDomNode &node)

@@ -13,9 +13,6 @@ public:
     /// `document`, which is empty, outlives the builder.
     explicit TreeBuilder(QDomDocument &document) : document(document) {}
 
-    /// The document type, of which no more is kept; ahead of all elements.
-    void documentType(const QString &name, const QString &systemId);
-
     void startElement(const QString &name);
 
     /// Of the element that was started last, ahead of all that is in it. Of two with one name the
@@ -29,9 +26,6 @@ public:
     void cdata(const QString &text);
     void comment(const QString &text);
     void processingInstruction(const QString &target, const QString &data);
-
-    /// A reference to an entity that nobody has declared.
-    void reference(const QString &entity);
 
     int nesting() const { return open.size(); }
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "probe.h"
+#include "reader/loading.h"
 
 #ifdef Q_OS_UNIX
 #include <csignal>
@@ -25,6 +26,8 @@ private slots:
     void loadSource()
     {
         Probe probe;
+        Loading loading;
+        probe.setLoading(&loading);
         const QString good = write("good.xml", "<r><Каталог/></r>");
         const QString broken = write("broken.xml", "<r><Каталог></r>");
         const QString missing = folder.filePath("missing.xml");
@@ -38,6 +41,9 @@ private slots:
             QCOMPARE(probe.katalogs.size(), 2);
 
             QVERIFY(!probe.loadSource(bad));
+            QCOMPARE(int(loading.failure),
+                     int(bad == broken ? LoadFailure::NotWellFormed : LoadFailure::NotOpened));
+            QVERIFY(!loading.message.isEmpty());
             QVERIFY(!probe.sourceFile.isOpen());
             QVERIFY(probe.document.isNull() && probe.rootElement.isNull());
             QVERIFY(!probe.readStructure());

@@ -14,21 +14,6 @@ inline QString source(const char *name)
     return QString::fromUtf8(file.readAll());
 }
 
-/// Names and values of all nodes below `node`, but of those that stand for entities.
-inline QStringList nodeTexts(const QDomNode &node)
-{
-    QStringList texts;
-    const QDomNamedNodeMap attributes = node.attributes();
-    for (int i = 0; i < attributes.size(); ++i)
-        texts << attributes.item(i).nodeName() + '=' + attributes.item(i).nodeValue();
-    texts.sort();
-    for (QDomNode child = node.firstChild(); !child.isNull(); child = child.nextSibling()) {
-        if (!child.isEntityReference() && !child.isDocumentType())
-            texts << child.nodeName() << child.nodeValue() << nodeTexts(child) << "end";
-    }
-    return texts;
-}
-
 /// A reader whose document is given as text, and whose fields a test can look at.
 class Probe : public CommXmlReader
 {
