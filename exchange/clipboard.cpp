@@ -14,7 +14,7 @@ static void printPieces(const QStringList &pieces)
 void CommXmlReader::copyRowsToClipboard()
 {
     QString text;
-    for (const QString &row : qAsConst(goodsRows))
+    for (const QString &row : std::as_const(goodsRows))
         text += row + QLatin1Char('\n');
     QGuiApplication::clipboard()->setText(text, QClipboard::Clipboard);
 }

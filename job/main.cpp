@@ -131,7 +131,7 @@ int main(int argc, char *argv[])
     QCoreApplication::setEventDispatcher(new IdleDispatcher); // which the application owns
     // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks)
     const QCoreApplication application(argc, argv);
-    consoleOut().setCodec("cp866");
+    setConsoleCodec("cp866");
 
     const QList<QByteArray> arguments = jobArguments(argc, argv);
     if (arguments.size() < 2) {

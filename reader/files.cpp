@@ -70,7 +70,7 @@ bool CommXmlReader::openOutput()
         return false;
     }
     outputStream.setDevice(&outputFile);
-    outputStream.setCodec("UTF-8");
+    useUtf8(outputStream);
     writer.begin();
     return true;
 }

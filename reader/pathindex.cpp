@@ -57,7 +57,7 @@ void PathIndex::build(const QList<QDomNode> &sections)
     clear();
     indexed = sections;
     while (enclosing.size() < indexed.size()) {
-        const int section = enclosing.size();
+        const int section = static_cast<int>(enclosing.size());
         enclosing.append(noSection);
         QString text;
         collect(indexed.at(section), section, text);
@@ -76,13 +76,13 @@ void PathIndex::collect(const QDomNode &parent, int section, QString &text)
         if (element.isNull())
             continue;
         const Keyed keyed = kind.keyed(element);
-        const int place = places.size();
+        const auto place = places.size();
         if (!keyed.node.isNull())
             places.append({section, keyed.node, {}});
-        const int begin = text.size();
+        const auto begin = text.size();
         if (kind.isDeep) {
             // What sections share is visited once: nested in each other, they could be very many.
-            const int next = enclosing.size();
+            const int next = static_cast<int>(enclosing.size());
             const bool isNextSection = next < indexed.size() && element == indexed.at(next);
             if (isNextSection)
                 enclosing.append(section);
@@ -94,7 +94,8 @@ void PathIndex::collect(const QDomNode &parent, int section, QString &text)
 }
 
 /// Where those of a digest begin, or those of them that are in this section or behind it.
-const PathIndex::Place *PathIndex::find(const QByteArray &digest, int section) const
+QVector<PathIndex::Place>::const_iterator PathIndex::find(const QByteArray &digest,
+                                                          int section) const
 {
     return std::lower_bound(places.cbegin(), places.cend(), std::tie(digest, section),
                             [](const Place &place, const auto &wanted) {
@@ -107,8 +108,8 @@ QMap<int, QDomNode> PathIndex::firstNodes(const QString &key) const
 {
     const QByteArray digest = digestOf(key);
     QMap<int, QDomNode> firsts;
-    for (const Place *place = find(digest, noSection);
-         place != places.cend() && place->digest == digest; ++place) {
+    for (auto place = find(digest, noSection); place != places.cend() && place->digest == digest;
+         ++place) {
         // Where a section has its first node already, those around it have, too.
         int section = place->section;
         while (section != noSection && !firsts.contains(section)) {
@@ -124,7 +125,7 @@ QMap<int, QDomNode> PathIndex::firstNodes(const QString &key) const
 QDomNode PathIndex::nodeIn(int section, const QString &key) const
 {
     const QByteArray digest = digestOf(key);
-    const Place *const place = find(digest, section);
+    const auto place = find(digest, section);
     const bool isFound =
         place != places.cend() && place->section == section && place->digest == digest;
     return isFound ? place->node : QDomNode();
@@ -167,8 +168,8 @@ const PathIndex::Node *PathIndex::visit(const QDomNode &first, int section)
 /// Marks the loop of a way that has come back to where it has been, if it has.
 void PathIndex::closeLoop(const QVector<Node *> &way)
 {
-    auto *const *const end = way.cend() - 1;
-    auto *const *const loop = std::find(way.cbegin(), end, way.last());
+    const auto end = way.cend() - 1;
+    const auto loop = std::find(way.cbegin(), end, way.last());
     // Where one has a name, the path begins elsewhere without those that have none.
     const bool isNamed = std::any_of(loop, end, hasName);
     std::for_each(loop, end, [=](Node *node) {

@@ -82,7 +82,7 @@ private:
 
     void build(const QList<QDomNode> &sections);
     void collect(const QDomNode &parent, int section, QString &text);
-    const Place *find(const QByteArray &digest, int section) const;
+    QVector<Place>::const_iterator find(const QByteArray &digest, int section) const;
     QMap<int, QDomNode> firstNodes(const QString &key) const;
     QDomNode nodeIn(int section, const QString &key) const;
     const Node *visit(const QDomNode &first, int section);

@@ -43,11 +43,12 @@ QString Scanner::take(int count)
 
 bool Scanner::skip(QLatin1String word)
 {
-    at(word.size() - 1);
-    const bool isThere = text.size() - position >= word.size() &&
-                         QStringView(text).mid(position, word.size()) == word;
+    const int length = static_cast<int>(word.size());
+    at(length - 1);
+    const bool isThere =
+        text.size() - position >= length && QStringView(text).mid(position, length) == word;
     if (isThere)
-        position += word.size();
+        position += length;
     return isThere;
 }
 
@@ -129,7 +130,7 @@ bool Scanner::takeReference(QString &value, QString &entity)
             return (digit >= u'0' && digit <= u'9') || (isHex && digit >= u'a' && digit <= u'f') ||
                    (isHex && digit >= u'A' && digit <= u'F');
         });
-        const uint code = digits.toUInt(&isNumber, isHex ? 16 : 10);
+        const char32_t code = digits.toUInt(&isNumber, isHex ? 16 : 10);
         const bool isCharacter =
             code == u'\t' || code == u'\n' || code == u'\r' || (code >= 0x20 && code < 0xd800) ||
             (code >= 0xe000 && code < 0xfffe) || (code >= 0x10000 && code < 0x110000);

@@ -17,7 +17,7 @@ void Source::fetchData()
     QXmlInputSource::fetchData();
     characters += data().size();
     if (inProlog)
-        brackets += data().count(QLatin1Char('('));
+        brackets += static_cast<int>(data().count(QLatin1Char('(')));
     if (brackets > limits::brackets)
         endHere(LoadFailure::TooManyBrackets);
     if (loading.goesOn && ++pieces % piecesToAskAfter == 0 && !loading.goesOn(device.pos()))

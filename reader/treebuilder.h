@@ -27,7 +27,7 @@ public:
     void comment(const QString &text);
     void processingInstruction(const QString &target, const QString &data);
 
-    int nesting() const { return open.size(); }
+    int nesting() const { return static_cast<int>(open.size()); }
 
     /// The name of the element that is open; empty if none is.
     QString name() const { return open.isEmpty() ? QString() : open.last().tagName(); }

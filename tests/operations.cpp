@@ -7,9 +7,11 @@
 // A CALL is the name of an operation and those of its parameters that are set, or are given a value
 // with "=". Rows and paths end in "$": they can hold line ends and blanks.
 #include "export/commerceml/walks.h"
+#include "job/console.h"
 #include "reader/commxmlreader.h"
 
 #include <QCoreApplication>
+#include <QRegularExpression>
 
 #include <functional>
 #include <iterator>
@@ -29,7 +31,7 @@ public:
         const QStringList words = text.split(' ');
         const auto is = [&](const char *parameter) { return words.contains(parameter); };
         const auto value = [&](const QString &parameter) {
-            return words.filter(QRegExp("^" + parameter + "=")).value(0).section('=', 1);
+            return words.filter(QRegularExpression("^" + parameter + "=")).value(0).section('=', 1);
         };
         const auto offers =
             [&](bool (CommXmlReader::*exporter)(bool, bool, bool, bool, bool, double)) {
@@ -67,9 +69,9 @@ public:
         goodsRows.clear();
         const bool returned = operations.value(words.first())();
         results << "returned " << (returned ? "true" : "false") << '\n';
-        for (const QString &row : qAsConst(goodsRows))
+        for (const QString &row : std::as_const(goodsRows))
             results << "row " << row << "$\n";
-        for (const PictureLink &picture : qAsConst(pictureLinks))
+        for (const PictureLink &picture : std::as_const(pictureLinks))
             results << "picture " << picture.first << " " << picture.second << "$\n";
     }
 
@@ -127,7 +129,7 @@ int main(int argc, char *argv[])
     if (!file.open(QIODevice::WriteOnly))
         return 1;
     QTextStream results(&file);
-    results.setCodec("UTF-8");
+    useUtf8(results);
     Operations reader(results);
     if (!reader.loadSource(arguments.at(1)) || !reader.readStructure())
         return 2;

@@ -44,7 +44,7 @@ inline Reading readBy(bool (*read)(QIODevice &, QDomDocument &, Loading &), QByt
     return reading;
 }
 
-inline QString toText(int line, int column)
+inline QString toText(qint64 line, qint64 column)
 {
     return QString("%1:%2").arg(line).arg(column);
 }
@@ -79,7 +79,7 @@ inline QStringList endsOfTags(QString xml, const QVector<SourcePosition> &positi
             else if (quote.isNull() && (next == '"' || next == '\''))
                 quote = next;
         }
-        const int lineStart = xml.lastIndexOf('\n', end) + 1;
+        const auto lineStart = xml.lastIndexOf('\n', end) + 1;
         ends << toText(line + xml.mid(index, end - index).count('\n'), end - lineStart + 1);
     }
     return ends;

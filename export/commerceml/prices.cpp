@@ -60,7 +60,7 @@ FieldValues readPrices(const Export &to, const ChildLookup &offer, std::optional
 
     std::sort(numbers.begin(), numbers.end(), isHigher);
     const auto *key = std::begin(priceKeys);
-    for (const double number : qAsConst(numbers)) {
+    for (const double number : std::as_const(numbers)) {
         if (key == std::end(priceKeys)) {
             isDropped = true;
             break;

@@ -52,7 +52,7 @@ QString yml::displayName(const QString &name)
     constexpr QLatin1Char close(']');
 
     QString shown = name;
-    const int end = name.indexOf(close);
+    const auto end = name.indexOf(close);
     if (name.startsWith(open) && end >= 0) {
         const QString inner = name.mid(1, end - 1);
         if (holds(name.mid(end), inner))
@@ -60,7 +60,7 @@ QString yml::displayName(const QString &name)
     }
     if (shown.startsWith(open)) {
         shown.remove(0, 1);
-        const int first = shown.indexOf(close);
+        const auto first = shown.indexOf(close);
         if (first >= 0)
             shown.remove(first, 1);
     }

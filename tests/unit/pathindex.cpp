@@ -93,7 +93,7 @@ private slots:
                 if (change == 0)
                     std::reverse(probe.groups.begin(), probe.groups.end());
                 else if (!probe.groups.isEmpty())
-                    probe.groups.removeAt(pick(probe.groups.size()));
+                    probe.groups.removeAt(pick(static_cast<int>(probe.groups.size())));
             }
         }
         QVERIFY(filled > 1000);
