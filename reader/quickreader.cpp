@@ -27,7 +27,7 @@ public:
             if (!(scanner.at(0) == u'<' ? readMarkup() : readText()))
                 return false;
         }
-        return hasRoot && builder.nesting() == 0;
+        return hasRoot && open.isEmpty();
     }
 
 private:
@@ -74,8 +74,10 @@ private:
 
     bool readText()
     {
-        if (builder.nesting() == 0)
+        if (open.isEmpty())
             return scanner.skipBlanks();
+        if (scanner.skipBlanksTo(u'<'))
+            return true; // builds nothing
         QString value;
         for (;;) {
             scanner.takePlain(value, u'<', u'&', u']');
@@ -115,7 +117,7 @@ private:
 
     bool readStartTag()
     {
-        if ((hasRoot && builder.nesting() == 0) || builder.nesting() == limits::nesting)
+        if ((hasRoot && open.isEmpty()) || open.size() == limits::nesting)
             return false;
         hasRoot = true;
         scanner.leaveProlog();
@@ -126,6 +128,7 @@ private:
         if (!scanner.takeName(name))
             return false;
         builder.startElement(name);
+        open.append(name);
         for (int attributes = 0; attributes <= limits::attributes; ++attributes) {
             const bool isApart = scanner.skipBlanks();
             if (scanner.at(0) == u'>') {
@@ -134,7 +137,7 @@ private:
             }
             if (scanner.at(0) == u'/' && scanner.at(1) == u'>') {
                 scanner.pass(2);
-                builder.endElement();
+                endElement();
                 return true;
             }
             if (!isApart || !readAttribute())
@@ -153,7 +156,7 @@ private:
         if (quote != u'"' && quote != u'\'')
             return false;
         scanner.pass(1);
-        QString value = QLatin1String("");
+        QString value;
         for (;;) {
             scanner.takePlain(value, quote, u'<', u'&');
             const QChar next = scanner.at(0);
@@ -164,22 +167,27 @@ private:
             if (next != u'&' || !scanner.takeReference(value, entity))
                 return false;
         }
-        builder.attribute(name, value);
+        builder.attribute(name, value.isNull() ? QStringLiteral("") : value);
         return true;
     }
 
     bool readEndTag()
     {
         scanner.pass(2);
-        QString name;
-        if (!scanner.takeName(name) || builder.nesting() == 0 || name != builder.name())
+        if (open.isEmpty() || !scanner.skipName(open.last()))
             return false;
         scanner.skipBlanks();
         if (scanner.at(0) != u'>')
             return false;
         scanner.pass(1);
-        builder.endElement();
+        endElement();
         return true;
+    }
+
+    void endElement()
+    {
+        builder.endElement();
+        open.removeLast();
     }
 
     bool readComment()
@@ -196,7 +204,7 @@ private:
     bool readCdata()
     {
         QString value = QLatin1String("");
-        if (builder.nesting() == 0 || !scanner.skip(QLatin1String("<![CDATA[")) ||
+        if (open.isEmpty() || !scanner.skip(QLatin1String("<![CDATA[")) ||
             !scanner.takeUpTo(QLatin1String("]]>"), value))
             return false;
         builder.cdata(value);
@@ -237,6 +245,7 @@ private:
     Loading &loading;
     Scanner scanner;
     TreeBuilder builder;
+    QVector<QString> open; // the names of elements
     bool hasRoot = false;
     bool hasDoctype = false;
 };

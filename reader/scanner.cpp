@@ -7,20 +7,59 @@
 /// Decoded ahead, in characters: what the caches of a processor hold.
 static constexpr int usualStep = 1 << 14;
 
+/// Most texts are shorter, and all names are.
+static constexpr int usualText = 500;
+
 /// Characters of a reference, with its semicolon.
 static constexpr int longestReference = 12;
 
-static bool isBlank(QChar character)
+namespace
 {
-    return character == u' ' || character == u'\n' || character == u'\t' || character == u'\r';
+
+/// What a character can be, in bits.
+enum CharacterClass : uchar {
+    Text = 1,   ///< nothing but text, wherever it stands
+    Markup = 2, ///< text as well, but in some places more than that
+    Blank = 4,
+    StartsName = 8,
+    ContinuesName = 16,
+};
+
+constexpr auto classes = [] {
+    std::array<uchar, 0x460> table = {};
+    const auto mark = [&table](char16_t first, char16_t last, int bits) {
+        for (std::size_t c = first; c <= last; ++c)
+            table[c] = static_cast<uchar>(table[c] | bits);
+    };
+    mark(0x20, table.size() - 1, Text);
+    for (const char16_t blank : {u' ', u'\n', u'\t', u'\r'})
+        mark(blank, blank, Text | Blank);
+    for (const char16_t character : {u'<', u'&', u']', u'"', u'\'', u'-', u'?'})
+        mark(character, character, Markup);
+    for (const char16_t sign : {u'-', u'.', u':'})
+        mark(sign, sign, ContinuesName);
+    mark(u'0', u'9', ContinuesName);
+    mark(u'_', u'_', StartsName | ContinuesName);
+    mark(u'a', u'z', StartsName | ContinuesName);
+    mark(u'A', u'Z', StartsName | ContinuesName);
+    mark(u'А', u'я', StartsName | ContinuesName);
+    mark(u'Ё', u'Ё', StartsName | ContinuesName);
+    mark(u'ё', u'ё', StartsName | ContinuesName);
+    return table;
+}();
+
+uchar classOf(QChar character)
+{
+    const char16_t c = character.unicode();
+    return c < classes.size() ? classes[c] : uchar(c < 0xfffe ? Text : 0);
 }
 
-/// Characters that are nothing but text, wherever they stand.
-static bool isPlain(QChar character)
+bool is(QChar character, CharacterClass bits)
 {
-    const ushort c = character.unicode();
-    return c >= 0x20 ? c < 0xfffe : isBlank(character);
+    return (classOf(character) & bits) != 0;
 }
+
+} // namespace
 
 Scanner::Scanner(QIODevice &device, Loading &loading)
     : source(device, loading), countsPlaces(loading.wantsPositions)
@@ -55,29 +94,44 @@ bool Scanner::skip(QLatin1String word)
 bool Scanner::skipBlanks()
 {
     const int before = position;
-    while (isBlank(at(0)))
+    while (is(at(0), Blank))
         ++position;
     return position > before;
 }
 
-void Scanner::takePlain(QString &value, QChar end, QChar otherEnd, QChar thirdEnd)
+bool Scanner::skipBlanksTo(QChar end)
 {
     int length = 0;
-    for (QChar next = at(0); isPlain(next) && next != end && next != otherEnd && next != thirdEnd;
-         next = at(length)) {
+    while (is(at(length), Blank))
         ++length;
-        if (length == usualStep) {
-            value += take(length);
-            length = 0;
-            drop();
-        }
-    }
-    // What is appended to grows in steps, and most texts are all in one piece.
-    if (value.isEmpty() && length > 0)
-        value = text.mid(position, length);
-    else
-        value.append(text.constData() + position, length);
-    position += length;
+    const bool isThere = at(length) == end;
+    if (isThere)
+        position += length;
+    return isThere;
+}
+
+void Scanner::takePlain(QString &value, QChar end, QChar otherEnd, QChar thirdEnd)
+{
+    at(usualText);
+    do {
+        const QChar *const begin = text.constData() + position;
+        const QChar *const last = text.constData() + text.size();
+        const QChar *const found = std::find_if(begin, last, [=](QChar next) {
+            const int bits = classOf(next) & (Text | Markup);
+            return bits != Text &&
+                   (bits == 0 || next == end || next == otherEnd || next == thirdEnd);
+        });
+        const int length = static_cast<int>(found - begin);
+        // What is appended to grows in steps, and most texts are all in one piece.
+        if (value.isEmpty() && length > 0)
+            value = QString(begin, length);
+        else
+            value.append(begin, length);
+        position += length;
+        if (found != last)
+            return;
+        drop();
+    } while (fetch(position));
 }
 
 bool Scanner::takeUpTo(QLatin1String end, QString &value)
@@ -96,18 +150,30 @@ bool Scanner::takeUpTo(QLatin1String end, QString &value)
 
 bool Scanner::takeName(QString &name)
 {
-    if (!startsName(at(0)))
+    at(usualText);
+    const QChar *const begin = text.constData() + position;
+    const QChar *const last = text.constData() + text.size();
+    const QChar *const end =
+        std::find_if(begin, last, [](QChar character) { return !is(character, ContinuesName); });
+    const int length = static_cast<int>(end - begin);
+    if (length == 0 || length > usualText || !is(*begin, StartsName))
         return false;
-    int length = 1;
-    while (continuesName(at(length)))
-        ++length;
-    const QStringView found = QStringView(text).mid(position, length);
-    const auto mark = static_cast<unsigned>(length * 31 + found.at(0).unicode() * 7 +
-                                            found.at(length - 1).unicode());
+    const auto mark =
+        static_cast<unsigned>(length * 31 + begin->unicode() * 7 + (end - 1)->unicode());
     QString &known = names[mark % names.size()];
-    if (known != found)
-        known = found.toString();
+    if (!std::equal(begin, end, known.cbegin(), known.cend()))
+        known = QString(begin, length);
     name = known;
+    position += length;
+    return true;
+}
+
+bool Scanner::skipName(const QString &name)
+{
+    const int length = static_cast<int>(name.size());
+    if (is(at(length), ContinuesName) || text.size() - position < length ||
+        !std::equal(name.cbegin(), name.cend(), text.constData() + position))
+        return false;
     position += length;
     return true;
 }
@@ -153,20 +219,13 @@ bool Scanner::takeReference(QString &value, QString &entity)
         }
     }
     entity = name;
-    return std::all_of(name.begin(), name.end(), startsName);
-}
-
-bool Scanner::startsName(QChar character)
-{
-    const ushort c = character.unicode();
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' ||
-           (c >= 0x410 && c <= 0x44f) || c == 0x401 || c == 0x451;
+    return std::all_of(name.begin(), name.end(),
+                       [](QChar character) { return is(character, StartsName); });
 }
 
 bool Scanner::continuesName(QChar character)
 {
-    const ushort c = character.unicode();
-    return startsName(character) || (c >= '0' && c <= '9') || c == '-' || c == '.' || c == ':';
+    return is(character, ContinuesName);
 }
 
 /// Decodes on until the character at `index` is there, and some more. False if there is none.

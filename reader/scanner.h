@@ -40,6 +40,9 @@ public:
     /// Whether there were blanks to pass.
     bool skipBlanks();
 
+    /// Whether there are only blanks, if anything, up to `end`; if so, passes them.
+    bool skipBlanksTo(QChar end);
+
     /// Passes what is plain text and none of these characters, and adds it to `value`.
     void takePlain(QString &value, QChar end, QChar otherEnd, QChar thirdEnd);
 
@@ -48,14 +51,17 @@ public:
     bool takeUpTo(QLatin1String end, QString &value);
 
     /// Passes a name; those that are the same share their text. False if there is none, or not one
-    /// of the letters that exports are made of.
+    /// of the letters that exports are made of, or far too long a one.
     bool takeName(QString &name);
+
+    /// Whether just this name comes; if so, passes it.
+    bool skipName(const QString &name);
 
     /// Passes what comes behind a "&", and adds the character to `value`, or tells the name of an
     /// entity that is none of the five that all documents have. False if it names no character.
     bool takeReference(QString &value, QString &entity);
 
-    static bool startsName(QChar character);
+    /// Whether a name can go on with it.
     static bool continuesName(QChar character);
 
     /// To be told at the root element.

@@ -47,14 +47,13 @@ void CommXmlReader::collectSections(const QDomNode &parent)
     // A program with a window stays alive while a long document is walked.
     QCoreApplication::processEvents(QEventLoop::AllEvents);
     for (QDomNode child = parent.firstChild(); !child.isNull(); child = child.nextSibling()) {
-        if (child.isElement()) {
-            const QString name = child.nodeName();
-            const auto *kind =
-                std::find_if(std::begin(kinds), std::end(kinds),
-                             [&](const SectionKind &k) { return k.element == name; });
-            if (kind != std::end(kinds))
-                (this->*kind->list).append(child);
-        }
+        if (!child.isElement())
+            continue; // and holds none
+        const QString name = child.nodeName();
+        const auto *kind = std::find_if(std::begin(kinds), std::end(kinds),
+                                        [&](const SectionKind &k) { return k.element == name; });
+        if (kind != std::end(kinds))
+            (this->*kind->list).append(child);
         collectSections(child);
     }
 }

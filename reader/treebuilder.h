@@ -29,9 +29,6 @@ public:
 
     int nesting() const { return static_cast<int>(open.size()); }
 
-    /// The name of the element that is open; empty if none is.
-    QString name() const { return open.isEmpty() ? QString() : open.last().tagName(); }
-
 private:
     void append(const QDomNode &node);
 
