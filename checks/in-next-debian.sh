@@ -1,14 +1,18 @@
 #!/usr/bin/env bash
 #
-# checks/in-next-debian.sh [RELEASE]: as root, follows the README on a minimal Debian of the next
-# release, trixie if none is given: with the last commit and nothing else it converts an example,
-# which must give what build/xml2ryk gives, and runs every test.
+# checks/in-next-debian.sh [RELEASE [HIDDEN]]: as root, follows the README on a minimal Debian of the
+# next release, trixie if none is given: with the last commit and nothing else it converts an example,
+# which must give what build/xml2ryk gives, and runs every test. It is a Debian that no longer has the
+# package HIDDEN.
 set -euo pipefail
 # shellcheck source-path=SCRIPTDIR source=new-debian.sh
 . "$(dirname "$(readlink -f "$0")")/new-debian.sh"
 
-expect_arguments 0 1 "$@"
+expect_arguments 0 2 "$@"
 set_up_debian "${1:-trixie}"
+# shellcheck disable=SC2031
+[ $# -lt 2 ] || printf 'Package: %s\nPin: release *\nPin-Priority: -1\n' "$2" \
+    >"$fresh/etc/apt/preferences.d/hidden"
 mkdir "$fresh/xml2ryk"
 # shellcheck disable=SC2031
 git -c safe.directory="$root" -C "$root" archive HEAD | tar -x -C "$fresh/xml2ryk"

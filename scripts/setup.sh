@@ -4,7 +4,7 @@
 # testing. Sourced by them, under pipefail; all but the tests and --help goes to standard error.
 
 root=$(cd "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")/.." && pwd)
-build_packages=(g++ cmake ninja-build qtbase5-dev)
+build_packages=(g++ cmake ninja-build 'qtbase5-dev|qt6-5compat-dev')
 # What is made once and kept, outside the tree.
 export XML2RYK_CACHE=${XML2RYK_CACHE:-${XDG_CACHE_HOME:-~/.cache}/xml2ryk}
 
@@ -68,31 +68,46 @@ take_turn() {
 }
 
 # install_packages PACKAGE...: installs those that are missing, where Debian's tools are there.
-# Elsewhere it is left to the build to find out whether everything needed is there.
+# Elsewhere it is left to the build to find out whether everything needed is there. Of FIRST|SECOND
+# one is enough: the first, if this Debian has it.
 install_packages() {
     command -v apt-get >/dev/null || return 0
     local installed missing=() package as_root=() needs_root log
-    installed=" $(dpkg-query -W -f '${db:Status-Status}:${Package} ' "$@" 2>/dev/null || true)"
+    # shellcheck disable=SC2068
+    installed=" $(dpkg-query -W -f '${db:Status-Status}:${Package} ' ${@//|/ } 2>/dev/null || true)"
     for package in "$@"; do
-        [[ $installed == *" installed:$package "* ]] || missing+=("$package")
+        [[ $installed == *" installed:${package%|*} "* || $installed == *" installed:${package#*|} "* ]] ||
+            missing+=("$package")
     done
     [ ${#missing[@]} -gt 0 ] || return 0
 
-    needs_root="these packages are missing, and only root can install them: ${missing[*]}"
+    needs_root="these packages are missing, and only root can install them: ${missing[*]//|/ or }"
     if [ "$(id -u)" -ne 0 ]; then
         command -v sudo >/dev/null || give_up "$needs_root"
         as_root=(sudo)
     fi
     log=$(mktemp -t xml2ryk-apt.XXXXXX)
-    say "installing ${missing[*]}"
+    say "installing ${missing[*]//|/ or }"
     # A source of packages that nobody needs here may well be broken.
     if ! run_apt update || grep -q '^[EW]:' "$log"; then
         [ -s "$log" ] || { rm "$log" && give_up "$needs_root"; }
         say "going on without some lists of packages: $(grep -m 1 '^[EW]:' "$log")"
     fi
+    for package in "${!missing[@]}"; do
+        missing[package]=$(candidate "${missing[package]}")
+    done
     run_apt install --yes --no-install-recommends "${missing[@]}" ||
         give_up "these packages could not be installed: ${missing[*]}; apt-get's output is in $log"
     rm "$log"
+}
+
+# candidate PACKAGE, or FIRST|SECOND: the one to install.
+candidate() {
+    if LC_ALL=C apt-cache policy "${1%|*}" | grep -q 'Candidate: [^(]'; then
+        echo "${1%|*}"
+    else
+        echo "${1#*|}"
+    fi
 }
 
 # run_apt ARGUMENT...: a part of install_packages. Waits for others that install, as a new machine
@@ -131,7 +146,8 @@ build() {
         say "preparing the build, this once"
         cmake -S "$root" --fresh --preset "$preset" >&2 ||
             give_up "can't configure the build, which needs a C++17 compiler, CMake 3.25, Ninja" \
-                "and Qt 5.15 (on Debian the packages ${build_packages[*]})"
+                "and Qt 5.15, or 6.4 with Core5Compat (on Debian the packages" \
+                "${build_packages[*]//|/ or })"
     fi
     # Of Ninja's steps one is enough to tell that there is something to build.
     NINJA_STATUS='[%f/%t] ' cmake --build "$directory" --target "$target" 2>&1 |
