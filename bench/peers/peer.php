@@ -1,9 +1,10 @@
 <?php
 // SPDX-License-Identifier: MIT
 //
-// peer.php catalogue|yml SOURCE DESTINATION: what a user would script with SimpleXML and an array.
+// peer.php catalogue|yml blocks|lines SOURCE DESTINATION: what a user would script with SimpleXML and
+// an array. PHP hands each fwrite to the system at once: one a block of goods, or one a line.
 
-function goods_lines(array $values, $description)
+function write_blocks($out, array $values, $description)
 {
     $text = "##goods\n";
     foreach ($values as $key => $value) {
@@ -11,7 +12,21 @@ function goods_lines(array $values, $description)
             $text .= "$key:$value\n";
         }
     }
-    return $text . "--- begin ---\n$description\n--- end ---\n##endgoods\n";
+    fwrite($out, $text . "--- begin ---\n$description\n--- end ---\n##endgoods\n");
+}
+
+function write_lines($out, array $values, $description)
+{
+    fwrite($out, "##goods\n");
+    foreach ($values as $key => $value) {
+        if ($value !== null) {
+            fwrite($out, "$key:$value\n");
+        }
+    }
+    fwrite($out, "--- begin ---\n");
+    fwrite($out, "$description\n");
+    fwrite($out, "--- end ---\n");
+    fwrite($out, "##endgoods\n");
 }
 
 function walk_groups($groups, $above, array &$paths)
@@ -25,21 +40,21 @@ function walk_groups($groups, $above, array &$paths)
     }
 }
 
-function catalogue($root, $out)
+function catalogue($root, $out, $write)
 {
     $paths = [];
     foreach ($root->{'Классификатор'}->{'Группы'} as $groups) {
         walk_groups($groups, '', $paths);
     }
     foreach ($root->{'Каталог'}->{'Товары'}->{'Товар'} as $goods) {
-        fwrite($out, goods_lines([
+        $write($out, [
             'code' => $goods->{'Ид'},
             'article' => $goods->{'Артикул'},
             'name' => $goods->{'Наименование'},
             'barcode' => $goods->{'Штрихкод'},
             'group' => $paths[(string) $goods->{'Группы'}->{'Ид'}] ?? null,
             'unit' => $goods->{'БазоваяЕдиница'},
-        ], $goods->{'Описание'}));
+        ], $goods->{'Описание'});
     }
 }
 
@@ -59,7 +74,7 @@ function category_path($id, array $categories, array &$paths)
     return $paths[$id];
 }
 
-function yml($root, $out)
+function yml($root, $out, $write)
 {
     $categories = $paths = [];
     foreach ($root->shop->categories->category as $category) {
@@ -67,7 +82,7 @@ function yml($root, $out)
     }
     foreach ($root->shop->offers->offer as $offer) {
         $id = (string) $offer->categoryId;
-        fwrite($out, goods_lines([
+        $write($out, [
             'code' => $offer['id'],
             'article' => $offer->vendorCode,
             'name' => shown_name((string) $offer->name),
@@ -76,12 +91,12 @@ function yml($root, $out)
             'price' => $offer->price,
             'vendor' => $offer->vendor,
             'unit' => 'шт',
-        ], $offer->description));
+        ], $offer->description);
     }
 }
 
 ini_set('memory_limit', '-1');
-[, $kind, $source, $destination] = $argv;
+[, $kind, $unit, $source, $destination] = $argv;
 $out = fopen($destination, 'w');
 fwrite($out, "Ryk data for exchange\n");
-$kind(simplexml_load_file($source, 'SimpleXMLElement', LIBXML_PARSEHUGE), $out);
+$kind(simplexml_load_file($source, 'SimpleXMLElement', LIBXML_PARSEHUGE), $out, "write_$unit");
