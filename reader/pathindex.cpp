@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "reader/pathindex.h"
 
+#include "reader/tree.h"
+
 #include <QCryptographicHash>
 #include <QStringList>
 
@@ -18,16 +20,6 @@ static QByteArray digestOf(const QString &key)
                            key.size() * static_cast<int>(sizeof(QChar)));
     return bytes.size() < digestSize ? bytes
                                      : QCryptographicHash::hash(bytes, QCryptographicHash::Sha256);
-}
-
-/// What tells a node from all others.
-static const void *identity(const QDomNode &node)
-{
-    struct Access : QDomNode {
-        explicit Access(const QDomNode &node) : QDomNode(node) {}
-        const void *identity() const { return impl; }
-    };
-    return Access(node).identity();
 }
 
 PathIndex::Path PathIndex::path(const QList<QDomNode> &sections, const QString &key)
@@ -137,7 +129,7 @@ const PathIndex::Node *PathIndex::visit(const QDomNode &first, int section)
     QVector<Node *> way;
     bool isKnown = false;
     for (QDomNode next = first; !next.isNull() && !isKnown;) {
-        const auto [place, isNew] = nodes.try_emplace(identity(next));
+        const auto [place, isNew] = nodes.try_emplace(identityOf(next));
         Node *const node = &place->second;
         isKnown = !isNew;
         if (isNew) {

@@ -1,6 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "reader/tree.h"
 
+const void *identityOf(const QDomNode &node)
+{
+    struct Access : QDomNode {
+        explicit Access(const QDomNode &node) : QDomNode(node) {}
+        const void *identity() const { return impl; }
+    };
+    return Access(node).identity();
+}
+
 static void appendTexts(QString &text, const QDomNode &parent)
 {
     for (QDomNode child = parent.firstChild(); !child.isNull(); child = child.nextSibling()) {

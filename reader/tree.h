@@ -10,6 +10,9 @@
 
 #include <utility>
 
+/// What tells a node from all others of its document, as long as that is there.
+const void *identityOf(const QDomNode &node);
+
 /// The texts of an element and of all elements within it, joined; null for a null node. It is that
 /// of QDomElement::text(), which copies a text once more for each level that it lies below.
 QString textOf(const QDomNode &element);

@@ -2,8 +2,8 @@
 #
 # tests/run-conversion.sh [--accept] PROGRAM CASE: runs one whole conversion.
 #
-# CASE is a folder. Its `command`, lines of shell that call `xml2ryk`, or the `operations` of
-# operations.cpp, runs in a copy of the folder, with nothing on standard input. What comes of it must be, byte for byte, the folder `expected`:
+# CASE is a folder. Its `command`, lines of shell that call `xml2ryk`, the `operations` of
+# operations.cpp or the `survey` of survey.cpp, runs in a copy of the folder, with nothing on standard input. What comes of it must be, byte for byte, the folder `expected`:
 #   console.txt  standard output, decoded from cp866, with a line "[exit N]" behind each run of the
 #                program
 #   log.txt      standard error
@@ -26,11 +26,13 @@ expect_arguments 2 2 "$@"
 [ -f "$2/command" ] || refuse "there is no case $2"
 program=("$(realpath "$1")") case=$(realpath "$2")
 operations=("$(dirname "$(realpath "$1")")/tests/operations")
+survey=("$(dirname "$(realpath "$1")")/tests/survey")
 platform=posix log_encoding=UTF-8 carriage_return=''
 if [[ $1 == *.exe ]]; then
     platform=windows log_encoding=CP1251 carriage_return=$'\r'
     program=("$root/windows/run" "${program[@]}")
     operations=("$root/windows/run" "${operations[@]}.exe")
+    survey=("$root/windows/run" "${survey[@]}.exe")
 fi
 if ! grep -qsx "$platform" "$case/platform" && [ -e "$case/platform" ]; then
     echo "skipped: only for $(cat "$case/platform")"
@@ -51,6 +53,7 @@ run() {
 }
 xml2ryk() { run "${program[@]}" "$@"; }
 operations() { run "${operations[@]}" "$@"; }
+survey() { run "${survey[@]}" "$@"; }
 # shellcheck source=/dev/null
 (set +eu && . ./command) </dev/null >"$work/console" 2>"$work/log"
 to_text() { iconv -f "$1" -t UTF-8 | sed "s/$carriage_return\$//"; }
