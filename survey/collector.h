@@ -10,6 +10,7 @@
 #include <QVector>
 
 #include <unordered_set>
+#include <vector>
 
 namespace survey
 {
@@ -30,9 +31,6 @@ public:
     Counts counts;                                  // of items
     std::unordered_set<const void *> reported;      ///< all items
     std::unordered_set<const void *> lostDocuments; ///< those whose lines no exporter came to
-
-    /// Whether a value has a character in it that stands for bytes that could not be decoded.
-    bool hasUndecoded = false;
 
     /// Called when everything is exported.
     void finish();

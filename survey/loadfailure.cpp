@@ -22,9 +22,10 @@ static const struct {
     {"invalid name for processing instruction", "declaration"}, // not at the beginning
 };
 
-// Two more, which the parser can't tell.
-static const char *const htmlFault = "html"; // a page that is not even well-formed
-static const char *const noXmlFault = "no-xml";
+// What the parser can't tell.
+static const char *const nothingFault = "nothing"; // the source has no bytes
+static const char *const htmlFault = "html";       // a page that is not even well-formed
+static const char *const noXmlFault = "no-xml";    // its first character is not the one of XML
 
 static const struct {
     LoadFailure failure;
@@ -47,9 +48,8 @@ static QString faultOf(const Loading &loading, bool beginsAsHtml)
         std::find_if(std::begin(faults), std::end(faults), [&](const auto &known) {
             return loading.message == QLatin1String(known.message);
         });
-    const bool isAtBegin = loading.failedAt.line == 1 && loading.failedAt.column == 1;
-    if (isAtBegin)
-        return QLatin1String(noXmlFault);
+    if (loading.failedAt.line == 1 && loading.failedAt.column == 1)
+        return QLatin1String(fault == std::begin(faults) ? nothingFault : noXmlFault);
     return QLatin1String(fault != std::end(faults) ? fault->fault : "other");
 }
 

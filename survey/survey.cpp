@@ -99,6 +99,7 @@ public:
         // openOutput() would wait for a key where it fails.
         outputEnabled = QFile(path).open(QIODevice::Append | QIODevice::ExistingOnly);
         outputFileName = path;
+        writer.digest = &digest;
         if (!outputEnabled || !openOutput()) {
             exportToNowhere();
             return;
@@ -118,7 +119,6 @@ private:
 
     void exportGoods()
     {
-        writer.digest = &digest;
         exportKatalogs(/*prefixRows=*/false, /*withDescription=*/true, /*markHtml=*/true);
         exportPrices(/*prefixRows=*/false, /*withDescription=*/true, /*markHtml=*/true,
                      /*extendedOffers=*/true, /*applyFactor=*/false, /*priceFactor=*/1.0);
@@ -189,7 +189,7 @@ private:
         tellOfHead(elements.groups);
         QFile file(request.source);
         if (before.isFile && file.open(QIODevice::ReadOnly))
-            tellOfEncoding(file, Level::Doubt, hasUndecoded);
+            tellOfEncoding(file, Level::Doubt, result.found.contains(Kind::BrokenCharacters));
         if (!isNothing())
             return;
         if (dialect == UndeterminedDialect)

@@ -11,16 +11,17 @@ program=("$1") survey=("$2")
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
-files=()
-while IFS= read -r -d '' source; do
-    name=${#files[@]}
-    cp "$source" "$work/$name.xml"
-    "${program[@]}" "$work/$name.xml" "$work/$name.expected" </dev/null >/dev/null 2>&1 || true
-    [ -e "$work/$name.expected" ] || : >"$work/$name.expected"
-    files+=("$work/$name.xml" "$work/$name.actual")
-done < <(find "$root/examples" "$root"/tests/{conversions,surveys} -name '*.xml' -type f -print0)
-[ ${#files[@]} -gt 0 ]
-"${survey[@]}" --convert "${files[@]}"
-for expected in "$work"/*.expected; do
-    cmp "$expected" "${expected%.expected}.actual"
+for option in --sale --purchase; do # the first one is none
+    files=()
+    while IFS= read -r -d '' source; do
+        file=$work/${#files[@]}
+        cp "$source" "$file.xml"
+        "${program[@]}" "$file.xml" "$file.expected" $option </dev/null >/dev/null 2>&1 || true
+        [ -e "$file.expected" ] || : >"$file.expected"
+        files+=("$file.xml" "$file.actual")
+    done < <(find "$root/examples" "$root"/tests/{conversions,surveys} -name '*.xml' -type f -print0)
+    "${survey[@]}" --convert $option "${files[@]}"
+    for expected in "$work"/*.expected; do
+        cmp "$expected" "${expected%.expected}.actual"
+    done
 done

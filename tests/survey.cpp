@@ -42,13 +42,12 @@ static void print(QTextStream &results, const Survey &survey)
         results << toText(finding) << '\n';
 }
 
-static bool converts(const QString &source, const QString &newFile)
+static bool converts(Request request, const QString &source, const QString &newFile)
 {
     QFile file(newFile);
     if (!file.open(QIODevice::WriteOnly))
         return false;
     file.close();
-    Request request;
     request.source = source;
     const Conversion conversion = convert(request, newFile);
     if (!conversion.isWritten)
@@ -62,17 +61,11 @@ int main(int argc, char *argv[])
 {
     const QCoreApplication application(argc, argv);
     QStringList arguments = QCoreApplication::arguments().mid(1);
-    if (arguments.value(0) == "--convert") {
-        for (int i = 1; i + 1 < arguments.size(); i += 2) {
-            if (!converts(arguments.at(i), arguments.at(i + 1)))
-                return 1;
-        }
-        return 0;
-    }
-
     Request request;
+    bool isConverting = false;
     while (arguments.value(0).startsWith("--")) {
         const QString option = arguments.takeFirst();
+        isConverting |= option == "--convert";
         request.purchase |= option == "--purchase";
         request.all |= option == "--all";
         request.allowEmpty |= option == "--allow-empty";
@@ -80,7 +73,20 @@ int main(int argc, char *argv[])
             request.accepted.insert(kindNamed(option.section('=', 1)).value());
         if (option == "--stop")
             request.goesOn = [](qint64, qint64) { return false; };
+        if (option == "--change") {
+            request.goesOn = [&request](qint64, qint64) {
+                QFile file(request.source);
+                return file.open(QIODevice::Append) && file.putChar(' ');
+            };
+        }
     }
+    for (; isConverting && arguments.size() > 1; arguments = arguments.mid(2)) {
+        if (!converts(request, arguments.at(0), arguments.at(1)))
+            qFatal("not what is in the file: %s", qPrintable(arguments.at(1)));
+    }
+    if (isConverting)
+        return 0;
+
     QFile file(arguments.value(1));
     if (!file.open(QIODevice::WriteOnly))
         return 1;
