@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "survey/finding.h"
 
-#include <algorithm>
-
 namespace survey
 {
 
@@ -65,10 +63,11 @@ const KindInfo &infoOf(Kind kind)
 
 std::optional<Kind> kindNamed(const QString &name)
 {
-    const auto info = std::find_if(kinds().cbegin(), kinds().cend(), [&](const KindInfo &known) {
-        return name == QLatin1String(known.name);
-    });
-    return info != kinds().cend() ? std::optional(info->kind) : std::nullopt;
+    for (const KindInfo &info : kinds()) {
+        if (name == QLatin1String(info.name))
+            return info.kind;
+    }
+    return std::nullopt;
 }
 
 } // namespace survey

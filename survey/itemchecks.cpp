@@ -116,7 +116,7 @@ Found findMarker(const Checked &checked)
     constexpr int longestLine = 40;
     Found found;
     findText(checked.item, [&](QLatin1String key, const QString &text) {
-        auto begin = text.cbegin();
+        const auto *begin = text.cbegin();
         if (!key.isEmpty())
             begin = checked.isOdd ? std::find_if(begin, text.cend(), isLineEnd) : text.cend();
         while (begin != text.cend()) {
@@ -124,7 +124,7 @@ Found findMarker(const Checked &checked)
                 ++begin;
                 continue;
             }
-            const auto end =
+            const auto *const end =
                 checked.isOdd ? std::find_if(begin, text.cend(), isLineEnd) : text.cend();
             const QStringView line(begin, end);
             if (isMarker(line)) {

@@ -49,6 +49,7 @@ struct Request {
     bool all = false;         ///< all findings, not the first ten of a kind
     bool allowEmpty = false;  ///< Kind::Empty is not found
     QSet<Kind> accepted = {}; ///< losses that are doubts
+    bool keepsTree = false;   ///< never frees what it loads: for a process that ends soon
 
     /// Asked every now and then, with the bytes of the source that have been read and those that
     /// there are, 0 if nobody knows. False stops it.

@@ -8,6 +8,7 @@
 // where size or digest of a new file are not those that it tells.
 #include "survey/survey.h"
 #include "job/console.h"
+#include "job/idledispatcher.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
@@ -59,6 +60,8 @@ static bool converts(Request request, const QString &source, const QString &newF
 
 int main(int argc, char *argv[])
 {
+    QCoreApplication::setEventDispatcher(new IdleDispatcher); // which the application owns
+    // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks)
     const QCoreApplication application(argc, argv);
     QStringList arguments = QCoreApplication::arguments().mid(1);
     Request request;
@@ -68,6 +71,7 @@ int main(int argc, char *argv[])
         isConverting |= option == "--convert";
         request.purchase |= option == "--purchase";
         request.all |= option == "--all";
+        request.keepsTree |= option == "--keep-tree";
         request.allowEmpty |= option == "--allow-empty";
         if (option.startsWith("--accept="))
             request.accepted.insert(kindNamed(option.section('=', 1)).value());
