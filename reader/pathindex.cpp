@@ -86,8 +86,7 @@ void PathIndex::collect(const QDomNode &parent, int section, QString &text)
 }
 
 /// Where those of a digest begin, or those of them that are in this section or behind it.
-QVector<PathIndex::Place>::const_iterator PathIndex::find(const QByteArray &digest,
-                                                          int section) const
+PathIndex::Places::const_iterator PathIndex::find(const QByteArray &digest, int section) const
 {
     return std::lower_bound(places.cbegin(), places.cend(), std::tie(digest, section),
                             [](const Place &place, const auto &wanted) {
@@ -100,8 +99,8 @@ QMap<int, QDomNode> PathIndex::firstNodes(const QString &key) const
 {
     const QByteArray digest = digestOf(key);
     QMap<int, QDomNode> firsts;
-    for (auto place = find(digest, noSection); place != places.cend() && place->digest == digest;
-         ++place) {
+    for (Places::const_iterator place = find(digest, noSection);
+         place != places.cend() && place->digest == digest; ++place) {
         // Where a section has its first node already, those around it have, too.
         int section = place->section;
         while (section != noSection && !firsts.contains(section)) {
@@ -117,7 +116,7 @@ QMap<int, QDomNode> PathIndex::firstNodes(const QString &key) const
 QDomNode PathIndex::nodeIn(int section, const QString &key) const
 {
     const QByteArray digest = digestOf(key);
-    const auto place = find(digest, section);
+    const Places::const_iterator place = find(digest, section);
     const bool isFound =
         place != places.cend() && place->section == section && place->digest == digest;
     return isFound ? place->node : QDomNode();
@@ -126,7 +125,7 @@ QDomNode PathIndex::nodeIn(int section, const QString &key) const
 /// The node with all above it, each looked at unless it is known.
 const PathIndex::Node *PathIndex::visit(const QDomNode &first, int section)
 {
-    QVector<Node *> way;
+    Way way;
     bool isKnown = false;
     for (QDomNode next = first; !next.isNull() && !isKnown;) {
         const auto [place, isNew] = nodes.try_emplace(identityOf(next));
@@ -158,10 +157,10 @@ const PathIndex::Node *PathIndex::visit(const QDomNode &first, int section)
 }
 
 /// Marks the loop of a way that has come back to where it has been, if it has.
-void PathIndex::closeLoop(const QVector<Node *> &way)
+void PathIndex::closeLoop(const Way &way)
 {
-    const auto end = way.cend() - 1;
-    const auto loop = std::find(way.cbegin(), end, way.last());
+    const Way::const_iterator end = way.cend() - 1;
+    const Way::const_iterator loop = std::find(way.cbegin(), end, way.last());
     // Where one has a name, the path begins elsewhere without those that have none.
     const bool isNamed = std::any_of(loop, end, hasName);
     std::for_each(loop, end, [=](Node *node) {

@@ -80,20 +80,23 @@ private:
         Flaw flaw = Flaw::None;
     };
 
+    using Places = QVector<Place>;
+    using Way = QVector<Node *>;
+
     void build(const QList<QDomNode> &sections);
     void collect(const QDomNode &parent, int section, QString &text);
-    QVector<Place>::const_iterator find(const QByteArray &digest, int section) const;
+    Places::const_iterator find(const QByteArray &digest, int section) const;
     QMap<int, QDomNode> firstNodes(const QString &key) const;
     QDomNode nodeIn(int section, const QString &key) const;
     const Node *visit(const QDomNode &first, int section);
-    static void closeLoop(const QVector<Node *> &way);
+    static void closeLoop(const Way &way);
     static bool hasName(const Node *node) { return !node->name.value_or(QString()).isEmpty(); }
     static Path pathTo(const Node *node);
 
     Kind kind;
     QList<QDomNode> indexed;
     QVector<int> enclosing; // the section around each section
-    QVector<Place> places;  // by digest; those of one digest in document order
+    Places places;          // by digest; those of one digest in document order
     std::unordered_map<const void *, Node> nodes;
     QMap<QString, Path> paths;
 };
