@@ -4,6 +4,8 @@
 #include <QClipboard>
 #include <QGuiApplication>
 
+#include <utility>
+
 /// One line of the toolkit's debug output, with a blank behind each piece.
 static void printPieces(const QStringList &pieces)
 {

@@ -3,21 +3,16 @@
 
 #include <QAbstractEventDispatcher>
 
-#include <type_traits>
-
 /// The event dispatcher of an application that has no source of events. The reader looks for events
 /// at every node of a document; asking the system each time costs about as much as the parsing.
 class IdleDispatcher : public QAbstractEventDispatcher
 {
-    using Interval = std::conditional_t < QT_VERSION<QT_VERSION_CHECK(6, 0, 0), int, qint64>;
-
 public:
     bool processEvents(QEventLoop::ProcessEventsFlags) override { return false; }
 
     void registerSocketNotifier(QSocketNotifier *) override {}
     void unregisterSocketNotifier(QSocketNotifier *) override {}
 
-    void registerTimer(int, Interval, Qt::TimerType, QObject *) override {}
     bool unregisterTimer(int) override { return false; }
     bool unregisterTimers(QObject *) override { return false; }
     QList<TimerInfo> registeredTimers(QObject *) const override { return {}; }
@@ -27,6 +22,7 @@ public:
     void interrupt() override {}
 
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    void registerTimer(int, int, Qt::TimerType, QObject *) override {}
     bool hasPendingEvents() override
     {
         return false;
@@ -39,5 +35,7 @@ public:
     }
     void unregisterEventNotifier(QWinEventNotifier *) override {}
 #endif
+#else
+    void registerTimer(int, qint64, Qt::TimerType, QObject *) override {}
 #endif
 };

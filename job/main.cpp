@@ -3,6 +3,7 @@
 #include "job/idledispatcher.h"
 #include "job/platform.h"
 #include "reader/commxmlreader.h"
+#include "reader/tree.h"
 
 #include <QCoreApplication>
 #include <QLoggingCategory>
@@ -23,14 +24,7 @@ enum ExitCode {
 class JobReader : public CommXmlReader
 {
 public:
-    /// Keeps the document until the process ends: to take a million nodes apart would take a
-    /// twentieth of the run, for nothing.
-    void keepDocument() const
-    {
-        // Volatile: what nobody reads would not be there at all.
-        [[maybe_unused]] static const QDomDocument *volatile kept = nullptr;
-        kept = new QDomDocument(document);
-    }
+    void keepDocument() const { keepTree(document); }
 };
 
 struct JobOptions {

@@ -20,6 +20,7 @@ void CommXmlReader::logMessage(const QString &text)
 static void tell(Loading *loading, LoadFailure failure, const QFile &file)
 {
     if (loading != nullptr) {
+        loading->startOver();
         loading->failure = failure;
         loading->message = file.errorString();
     }

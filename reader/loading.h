@@ -52,4 +52,14 @@ struct Loading {
 
     /// What the parser, in English, or the system says of the failure; null if nothing.
     QString message;
+
+    /// Forgets what it was told of an earlier load.
+    void startOver()
+    {
+        positions.clear();
+        positionsAreEnds = false;
+        failure = LoadFailure::None;
+        failedAt = {};
+        message = QString();
+    }
 };

@@ -16,7 +16,6 @@ public:
     QuickReader(QIODevice &device, QDomDocument &document, Loading &loading)
         : loading(loading), scanner(device, loading), builder(document)
     {
-        loading.positionsAreEnds = false;
     }
 
     bool read()
@@ -27,7 +26,7 @@ public:
             if (!(scanner.at(0) == u'<' ? readMarkup() : readText()))
                 return false;
         }
-        return hasRoot && open.isEmpty();
+        return hasRoot && builder.nesting() == 0;
     }
 
 private:
@@ -74,7 +73,7 @@ private:
 
     bool readText()
     {
-        if (open.isEmpty())
+        if (builder.nesting() == 0)
             return scanner.skipBlanks();
         if (scanner.skipBlanksTo(u'<'))
             return true; // builds nothing
@@ -117,7 +116,7 @@ private:
 
     bool readStartTag()
     {
-        if ((hasRoot && open.isEmpty()) || open.size() == limits::nesting)
+        if ((hasRoot && builder.nesting() == 0) || builder.nesting() == limits::nesting)
             return false;
         hasRoot = true;
         scanner.leaveProlog();
@@ -128,7 +127,6 @@ private:
         if (!scanner.takeName(name))
             return false;
         builder.startElement(name);
-        open.append(name);
         for (int attributes = 0; attributes <= limits::attributes; ++attributes) {
             const bool isApart = scanner.skipBlanks();
             if (scanner.at(0) == u'>') {
@@ -137,7 +135,7 @@ private:
             }
             if (scanner.at(0) == u'/' && scanner.at(1) == u'>') {
                 scanner.pass(2);
-                endElement();
+                builder.endElement();
                 return true;
             }
             if (!isApart || !readAttribute())
@@ -174,20 +172,14 @@ private:
     bool readEndTag()
     {
         scanner.pass(2);
-        if (open.isEmpty() || !scanner.skipName(open.last()))
+        if (builder.nesting() == 0 || !scanner.skipName(builder.name()))
             return false;
         scanner.skipBlanks();
         if (scanner.at(0) != u'>')
             return false;
         scanner.pass(1);
-        endElement();
-        return true;
-    }
-
-    void endElement()
-    {
         builder.endElement();
-        open.removeLast();
+        return true;
     }
 
     bool readComment()
@@ -204,7 +196,7 @@ private:
     bool readCdata()
     {
         QString value = QLatin1String("");
-        if (open.isEmpty() || !scanner.skip(QLatin1String("<![CDATA[")) ||
+        if (builder.nesting() == 0 || !scanner.skip(QLatin1String("<![CDATA[")) ||
             !scanner.takeUpTo(QLatin1String("]]>"), value))
             return false;
         builder.cdata(value);
@@ -245,7 +237,6 @@ private:
     Loading &loading;
     Scanner scanner;
     TreeBuilder builder;
-    QVector<QString> open; // the names of elements
     bool hasRoot = false;
     bool hasDoctype = false;
 };

@@ -78,7 +78,7 @@ private:
     QString text;
     int position = 0;
     const bool countsPlaces;
-    SourcePosition counted{1, 1}; // of the character at:
+    SourcePosition counted{1, 1}; // where the character at countedPosition stands
     int countedPosition = 0;
     QChar lastCounted;
     std::array<QString, 256> names;

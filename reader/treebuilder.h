@@ -29,6 +29,9 @@ public:
 
     int nesting() const { return static_cast<int>(open.size()); }
 
+    /// The name of the element that was started last and is not ended; there is one.
+    QString name() const { return open.last().tagName(); }
+
 private:
     void append(const QDomNode &node);
 

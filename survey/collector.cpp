@@ -22,15 +22,6 @@ static QString codeOf(const Item &item)
     return textOf(document.firstChildElement(commerceml::numberElement));
 }
 
-/// Of one source's own choice: those that share it are compared.
-static size_t hashOf(const QString &text)
-{
-    size_t hash = 5381;
-    for (const QChar character : text)
-        hash = hash * 33 + character.unicode();
-    return hash;
-}
-
 void Collector::count(ItemKind kind)
 {
     static const std::pair<ItemKind, int Counts::*> counted[] = {
@@ -158,7 +149,7 @@ void Collector::addCode(const Item &item)
         markDuplicates();
     list = parent;
     codes.push_back(
-        {hashOf(item.code), item.code, static_cast<int>(codes.size()), identityOf(item.element)});
+        {qHash(item.code), item.code, static_cast<int>(codes.size()), identityOf(item.element)});
 }
 
 void Collector::markDuplicates()

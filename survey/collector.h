@@ -41,7 +41,7 @@ public:
 
 private:
     struct Coded {
-        size_t hash;
+        size_t hash; // to sort by: most codes begin alike
         QString code;
         int place; // in the list
         const void *element;

@@ -12,9 +12,8 @@ const QVector<KindInfo> &kinds()
         {Kind::NotReadable, "not-readable", Level::Error},
         // the fault, of `faults` in loadfailure.cpp, and what the parser says, in English
         {Kind::NotWellFormed, "not-well-formed", Level::Error},
-        // the declared encoding, and the one that fits; empty: none is declared, or nobody can
-        // tell.
-        // A doubt where the source is well-formed all the same
+        // the declared encoding and the one that fits, empty where there is none or nobody can
+        // tell; a doubt where the source is well-formed all the same
         {Kind::WrongEncoding, "wrong-encoding", Level::Error},
         // the limit, of `limits` there
         {Kind::Limit, "limit", Level::Error},

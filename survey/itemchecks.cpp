@@ -83,25 +83,13 @@ bool isMarker(QStringView line)
     return line.startsWith(QLatin1String("##")) || line == freeText.begin || line == freeText.end;
 }
 
-Found findLineBreak(const Checked &checked)
+/// The first text that has a character of the kind; a free text has no key.
+Found findCharacter(const Checked &checked, bool (*isWanted)(QChar), bool inFreeText)
 {
     Found found;
     if (checked.isOdd) {
         findText(checked.item, [&](QLatin1String key, const QString &text) {
-            if (!key.isEmpty() && std::any_of(text.begin(), text.end(), isLineEnd))
-                found = QStringList(key);
-            return found.has_value();
-        });
-    }
-    return found;
-}
-
-Found findBroken(const Checked &checked)
-{
-    Found found;
-    if (checked.isOdd) {
-        findText(checked.item, [&](QLatin1String key, const QString &text) {
-            if (std::any_of(text.begin(), text.end(), isBroken))
+            if ((inFreeText || !key.isEmpty()) && std::any_of(text.begin(), text.end(), isWanted))
                 found = QStringList(key);
             return found.has_value();
         });
@@ -178,9 +166,11 @@ constexpr ItemCheck checks[] = {
     {Kind::PriceNotANumber, bit(ItemKind::Offer) | bit(ItemKind::OrderLine), findNoPriceNumber},
     {Kind::EmptyCode, any & ~bit(ItemKind::OrderLine), // which has that of its good
      [](const Checked &checked) { return when(checked.item.code.isEmpty()); }},
-    {Kind::LineBreak, any, findLineBreak},
+    {Kind::LineBreak, any,
+     [](const Checked &checked) { return findCharacter(checked, isLineEnd, false); }},
     {Kind::MarkerInText, any, findMarker},
-    {Kind::BrokenCharacters, any, findBroken},
+    {Kind::BrokenCharacters, any,
+     [](const Checked &checked) { return findCharacter(checked, isBroken, true); }},
 };
 
 } // namespace

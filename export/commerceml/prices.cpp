@@ -8,6 +8,7 @@
 #include <cmath>
 #include <iterator>
 #include <optional>
+#include <utility>
 
 using namespace commerceml;
 using namespace exchange;

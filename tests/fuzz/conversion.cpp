@@ -85,8 +85,8 @@ void checkSource(const QByteArray &source)
         qFatal("findings are missing");
     const auto lines = source.count('\n') + source.count('\r') + 1;
     for (const survey::Finding &finding : survey.findings) {
-        const bool hasBytes = source.count('\0') == 0; // or line ends of two
-        if (hasBytes && finding.position.line > lines)
+        const bool isWide = source.contains('\0'); // its line ends are none of one byte
+        if (!isWide && finding.position.line > lines)
             qFatal("a line behind the end");
     }
 }

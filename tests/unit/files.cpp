@@ -44,6 +44,7 @@ private slots:
             QCOMPARE(int(loading.failure),
                      int(bad == broken ? LoadFailure::NotWellFormed : LoadFailure::NotOpened));
             QVERIFY(!loading.message.isEmpty());
+            QCOMPARE(loading.failedAt.line, bad == broken ? 1 : 0);
             QVERIFY(!probe.sourceFile.isOpen());
             QVERIFY(probe.document.isNull() && probe.rootElement.isNull());
             QVERIFY(!probe.readStructure());
