@@ -1,0 +1,336 @@
+// SPDX-License-Identifier: MIT
+#include "delivery/interrupts.h"
+#include "delivery/platform.h"
+
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QFileInfo>
+#include <QProcess>
+#include <QThread>
+
+#include <atomic>
+#include <fcntl.h>
+#include <io.h>
+#include <qt_windows.h>
+#include <string>
+
+namespace delivery
+{
+
+constexpr DWORD sharedByAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+
+/// A path as the system takes it, also where it is long.
+static std::wstring native(const QString &path)
+{
+    constexpr int longest = 240;
+    QString name = QDir::toNativeSeparators(path);
+    const QString whole = QDir::toNativeSeparators(QFileInfo(path).absoluteFilePath());
+    if (whole.size() > longest && !whole.startsWith(QLatin1String("\\\\")))
+        name = QLatin1String("\\\\?\\") + whole;
+    return name.toStdWString();
+}
+
+namespace
+{
+
+class Handle
+{
+public:
+    explicit Handle(HANDLE handle) : handle(handle) {}
+    ~Handle()
+    {
+        if (isOpen()) {
+            const DWORD failure = GetLastError();
+            CloseHandle(handle);
+            SetLastError(failure);
+        }
+    }
+    Q_DISABLE_COPY(Handle)
+
+    bool isOpen() const { return handle != INVALID_HANDLE_VALUE && handle != nullptr; }
+    HANDLE get() const { return handle; }
+
+private:
+    HANDLE handle;
+};
+
+} // namespace
+
+static HANDLE openExisting(const QString &path, DWORD access, DWORD flags = 0)
+{
+    return CreateFileW(native(path).c_str(), access, sharedByAll, nullptr, OPEN_EXISTING, flags,
+                       nullptr);
+}
+
+static FileState stateOf(HANDLE handle)
+{
+    FileState state;
+    BY_HANDLE_FILE_INFORMATION file = {};
+    if (GetFileType(handle) != FILE_TYPE_DISK || GetFileInformationByHandle(handle, &file) == 0) {
+        state.kind = FileState::Kind::Other;
+        return state;
+    }
+    constexpr int half = 32;
+    state.kind = (file.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0 ? FileState::Kind::Folder
+                                                                         : FileState::Kind::Regular;
+    state.volume = file.dwVolumeSerialNumber;
+    state.index = quint64(file.nFileIndexHigh) << half | file.nFileIndexLow;
+    state.names = file.nNumberOfLinks;
+    return state;
+}
+
+FileState stateOf(const QString &path)
+{
+    const Handle handle(openExisting(path, 0, FILE_FLAG_BACKUP_SEMANTICS));
+    return handle.isOpen() ? stateOf(handle.get()) : FileState();
+}
+
+QString withoutLinks(const QString &path)
+{
+    const DWORD attributes = GetFileAttributesW(native(path).c_str());
+    if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0)
+        return path;
+    const Handle handle(openExisting(path, 0, FILE_FLAG_BACKUP_SEMANTICS));
+    if (!handle.isOpen())
+        return {};
+    constexpr DWORD longest = 32'768;
+    std::wstring name(longest, L'\0');
+    name.resize(GetFinalPathNameByHandleW(handle.get(), name.data(), longest, 0));
+    QString meant = QString::fromStdWString(name);
+    if (meant.startsWith(QLatin1String("\\\\?\\UNC\\")))
+        return QDir::fromNativeSeparators(QLatin1Char('\\') + meant.mid(7));
+    if (meant.startsWith(QLatin1String("\\\\?\\")))
+        meant.remove(0, 4);
+    return QDir::fromNativeSeparators(meant);
+}
+
+bool mayWrite(const QString &path)
+{
+    const Handle handle(openExisting(path, GENERIC_WRITE));
+    // One that another program has open may be closed again until it matters.
+    return handle.isOpen() || GetLastError() == ERROR_SHARING_VIOLATION;
+}
+
+QString systemMessage()
+{
+    return qt_error_string(int(GetLastError()));
+}
+
+static HANDLE toHandle(qintptr handle)
+{
+    return reinterpret_cast<HANDLE>(handle);
+}
+
+/// Locks a byte that no file reaches: locks here keep others from reading and writing.
+static bool lock(HANDLE handle)
+{
+    OVERLAPPED place = {};
+    place.OffsetHigh = 0x7fff'ffff;
+    return LockFileEx(handle, LOCKFILE_EXCLUSIVE_LOCK | LOCKFILE_FAIL_IMMEDIATELY, 0, 1, 0,
+                      &place) != 0;
+}
+
+NewFile::Creation NewFile::create(const QString &newPath)
+{
+    remove();
+    // Others may create and remove it at the same time, but not without end; and a file that was
+    // removed keeps its name for as long as somebody has it open.
+    constexpr int mostAttempts = 100;
+    for (int attempt = 0; attempt < mostAttempts; ++attempt) {
+        constexpr DWORD access = GENERIC_READ | GENERIC_WRITE;
+        HANDLE file = CreateFileW(native(newPath).c_str(), access, sharedByAll, nullptr, CREATE_NEW,
+                                  FILE_ATTRIBUTE_NORMAL, nullptr);
+        const bool isOurs = file != INVALID_HANDLE_VALUE;
+        if (!isOurs && GetLastError() == ERROR_FILE_EXISTS)
+            file = openExisting(newPath, access);
+        if (file == INVALID_HANDLE_VALUE) {
+            if (GetLastError() == ERROR_FILE_NOT_FOUND)
+                continue;
+            return Creation::Failed;
+        }
+        handle = reinterpret_cast<qintptr>(file);
+        ownPath = newPath;
+        if (!lock(file)) {
+            close();
+            if (!isOurs)
+                return Creation::Held;
+            // Another run took it for a leftover ahead of our lock, and removes it.
+            continue;
+        }
+        // Whoever had the lock before may have renamed or removed the file.
+        if (!isInPlace()) {
+            close();
+            continue;
+        }
+        if (isOurs)
+            return Creation::Created;
+        // A killed run left it: with the lock in our hands nobody else holds it, or removes it.
+        const bool isRemoved = DeleteFileW(native(newPath).c_str()) != 0;
+        close();
+        if (!isRemoved)
+            return Creation::Failed;
+    }
+    return Creation::Held;
+}
+
+bool NewFile::isInPlace() const
+{
+    return delivery::stateOf(toHandle(handle)).isSameAs(stateOf(ownPath));
+}
+
+bool NewFile::canKeepOwner(const QString & /*old*/)
+{
+    return true;
+}
+
+bool NewFile::keepRights(const QString & /*old*/)
+{
+    // Files have the rights that their folder gives them.
+    return true;
+}
+
+bool NewFile::takeUsualRights()
+{
+    return true;
+}
+
+bool NewFile::flush()
+{
+    return FlushFileBuffers(toHandle(handle)) != 0;
+}
+
+bool NewFile::renameTo(const QString &destination)
+{
+    // Scanners and indexers open files as they come, and lock them for a moment.
+    constexpr qint64 patience = 2'000;
+    constexpr unsigned long pause = 50;
+    const QDeadlineTimer deadline(patience);
+    while (!renameFile(ownPath, destination)) {
+        const DWORD failure = GetLastError();
+        const bool mayPass = failure == ERROR_SHARING_VIOLATION || failure == ERROR_ACCESS_DENIED ||
+                             failure == ERROR_LOCK_VIOLATION;
+        if (!mayPass || deadline.hasExpired())
+            return false;
+        QThread::msleep(pause);
+    }
+    close();
+    return true;
+}
+
+void NewFile::remove()
+{
+    // Ahead of the lock's end: nobody else can have put another file there.
+    if (handle != -1 && isInPlace())
+        DeleteFileW(native(ownPath).c_str());
+    close();
+}
+
+void NewFile::close()
+{
+    const Handle closed(toHandle(handle));
+    handle = -1;
+    ownPath.clear();
+}
+
+bool renameFile(const QString &from, const QString &to)
+{
+    return MoveFileExW(native(from).c_str(), native(to).c_str(),
+                       MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
+}
+
+bool linkFile(const QString &file, const QString &name)
+{
+    return CreateHardLinkW(native(name).c_str(), native(file).c_str(), nullptr) != 0;
+}
+
+void flushFolder(const QString & /*folder*/)
+{
+    // MOVEFILE_WRITE_THROUGH has done it.
+}
+
+WorkerPipes becomeWorker()
+{
+    SetConsoleCtrlHandler([](DWORD) -> BOOL { return TRUE; }, TRUE);
+    const int orders = _dup(0);
+    const int answers = _dup(1);
+    const int null = _open("NUL", _O_RDWR | _O_NOINHERIT);
+    if (orders < 0 || answers < 0 || null < 0 || _dup2(null, 0) != 0 || _dup2(null, 1) != 0)
+        return {};
+    _close(null);
+    // Not everything asks the C library.
+    SetStdHandle(STD_INPUT_HANDLE, reinterpret_cast<HANDLE>(_get_osfhandle(0)));
+    SetStdHandle(STD_OUTPUT_HANDLE, reinterpret_cast<HANDLE>(_get_osfhandle(1)));
+    return {_fdopen(orders, "rb"), _fdopen(answers, "wb")};
+}
+
+/// A job whose processes end when the last handle of it goes, with this process.
+static HANDLE makeJob()
+{
+    HANDLE job = CreateJobObjectW(nullptr, nullptr);
+    JOBOBJECT_EXTENDED_LIMIT_INFORMATION limits = {};
+    limits.BasicLimitInformation.LimitFlags = JOB_OBJECT_LIMIT_KILL_ON_JOB_CLOSE;
+    SetInformationJobObject(job, JobObjectExtendedLimitInformation, &limits, sizeof limits);
+    return job;
+}
+
+void tieToThisProcess(const QProcess &worker)
+{
+    static const HANDLE job = makeJob();
+    const Handle process(
+        OpenProcess(PROCESS_SET_QUOTA | PROCESS_TERMINATE, FALSE, DWORD(worker.processId())));
+    AssignProcessToJobObject(job, process.get());
+}
+
+namespace
+{
+
+std::atomic<int> interruptCode = 0;
+std::atomic<QObject *> currentListener = nullptr;
+
+class Listener : public QObject
+{
+public:
+    explicit Listener(std::function<void()> heard) : heard(std::move(heard)) {}
+
+    std::function<void()> heard;
+};
+
+/// Runs in a thread that the system makes for it.
+BOOL WINAPI noteControl(DWORD control)
+{
+    constexpr int ofCtrlC = 130;
+    constexpr int ofEnd = 143;
+    const bool isKey = control == CTRL_C_EVENT || control == CTRL_BREAK_EVENT;
+    interruptCode = isKey ? ofCtrlC : ofEnd;
+    if (QObject *listener = currentListener)
+        QMetaObject::invokeMethod(
+            listener, [listener] { static_cast<Listener *>(listener)->heard(); },
+            Qt::QueuedConnection);
+    // The process would be ended as soon as this returns.
+    if (!isKey)
+        Sleep(INFINITE);
+    return TRUE;
+}
+
+} // namespace
+
+Interrupts::Interrupts(const std::function<void()> &heard)
+    : listener(std::make_unique<Listener>(heard))
+{
+    interruptCode = 0;
+    currentListener = listener.get();
+    SetConsoleCtrlHandler(noteControl, TRUE);
+}
+
+Interrupts::~Interrupts()
+{
+    SetConsoleCtrlHandler(noteControl, FALSE);
+    currentListener = nullptr;
+}
+
+int Interrupts::exitCode()
+{
+    return interruptCode;
+}
+
+} // namespace delivery

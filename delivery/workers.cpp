@@ -1,0 +1,202 @@
+// SPDX-License-Identifier: MIT
+#include "delivery/workers.h"
+
+#include "delivery/platform.h"
+
+#include <QFileInfo>
+#include <QProcess>
+#include <QTimer>
+
+#include <algorithm>
+#include <utility>
+
+namespace delivery
+{
+
+// What a worker has read it may not have given back to the system.
+constexpr qint64 mostBytes = 50'000'000;
+
+class Workers::Worker
+{
+public:
+    enum class State {
+        Serving,
+        Leaving, ///< it gets no more orders
+        Gone
+    };
+
+    State state = State::Serving;
+    std::optional<Order> order; ///< that it is carrying out
+    Progress latest;            ///< about that
+    bool isLate = false;        ///< with that
+    qint64 bytes = 0;           ///< of all of its sources
+    QByteArray unread;
+    QTimer timer;
+    QProcess process;
+
+    bool isFree() const { return state == State::Serving && !order; }
+
+    /// Has it end once nothing is left to do for it.
+    void leave()
+    {
+        state = State::Leaving;
+        process.closeWriteChannel();
+    }
+
+    /// The lines that have come whole since the last call.
+    QList<QByteArray> takeLines()
+    {
+        const QByteArray piece = process.readAllStandardOutput();
+        const auto end = piece.lastIndexOf('\n');
+        if (end < 0) {
+            unread += piece;
+            return {};
+        }
+        const QByteArray whole = unread + piece.left(end);
+        unread = piece.mid(end + 1);
+        return whole.split('\n');
+    }
+};
+
+Workers::Workers(const Setup &setup) : setup(setup), context(std::make_unique<QObject>()) {}
+
+Workers::~Workers()
+{
+    stop();
+}
+
+void Workers::work()
+{
+    if (std::exchange(isAwaited, true))
+        return;
+    QMetaObject::invokeMethod(
+        context.get(),
+        [this] {
+            isAwaited = false;
+            giveOrders();
+        },
+        Qt::QueuedConnection);
+}
+
+bool Workers::areIdle() const
+{
+    return std::none_of(workers.cbegin(), workers.cend(),
+                        [](const auto &worker) { return worker->order.has_value(); });
+}
+
+void Workers::stop()
+{
+    isStopped = true;
+    for (const auto &worker : workers) {
+        worker->process.blockSignals(true);
+        worker->timer.stop();
+        worker->order.reset();
+        worker->process.kill();
+    }
+    for (const auto &worker : workers)
+        worker->process.waitForFinished();
+}
+
+void Workers::giveOrders()
+{
+    // Here none of them is in the middle of telling something.
+    workers.erase(
+        std::remove_if(workers.begin(), workers.end(),
+                       [](const auto &worker) { return worker->state == Worker::State::Gone; }),
+        workers.end());
+    const auto isBusy = [](const auto &worker) { return worker->order.has_value(); };
+    while (!isStopped && std::count_if(workers.cbegin(), workers.cend(), isBusy) < setup.count) {
+        const std::optional<Order> order = next();
+        if (!order || isStopped)
+            return;
+        give(*order);
+    }
+}
+
+void Workers::give(const Order &order)
+{
+    const auto free = std::find_if(workers.cbegin(), workers.cend(),
+                                   [](const auto &worker) { return worker->isFree(); });
+    Worker &worker = free != workers.cend() ? **free : add();
+    worker.order = order;
+    worker.latest = {};
+    worker.bytes += QFileInfo(order.request.source).size();
+    if (setup.limit.count() > 0)
+        worker.timer.start(setup.limit);
+    if (worker.process.state() == QProcess::NotRunning) {
+        worker.process.start(setup.program, setup.arguments);
+        if (worker.state == Worker::State::Gone)
+            return;
+        tieToThisProcess(worker.process);
+    }
+    worker.process.write(toLine(order));
+}
+
+/// A worker that is not started yet.
+Workers::Worker &Workers::add()
+{
+    workers.push_back(std::make_unique<Worker>());
+    Worker &worker = *workers.back();
+    QProcess &process = worker.process;
+    process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    QObject::connect(&process, &QProcess::readyReadStandardOutput, &process,
+                     [this, &worker] { hear(worker); });
+    QObject::connect(
+        &process, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), &process,
+        [this, &worker](int code, QProcess::ExitStatus status) {
+            hear(worker);
+            worker.state = Worker::State::Gone;
+            const QString how = status == QProcess::CrashExit ? QStringLiteral("crashed with %1")
+                                                              : QStringLiteral("ended with %1");
+            end(worker, worker.isLate ? Ending::Kind::TimedOut : Ending::Kind::Died, how.arg(code));
+        });
+    QObject::connect(&process, &QProcess::errorOccurred, &process,
+                     [this, &worker](QProcess::ProcessError error) {
+                         if (error != QProcess::FailedToStart)
+                             return;
+                         worker.state = Worker::State::Gone;
+                         end(worker, Ending::Kind::NotStarted, worker.process.errorString());
+                     });
+    worker.timer.setSingleShot(true);
+    QObject::connect(&worker.timer, &QTimer::timeout, &process, [&worker] {
+        worker.isLate = true;
+        worker.process.kill();
+    });
+    return worker;
+}
+
+void Workers::hear(Worker &worker)
+{
+    for (const QByteArray &line : worker.takeLines()) {
+        // It may have been killed as it answered.
+        if (!worker.order || worker.isLate)
+            return;
+        const Reply reply = replyFrom(line);
+        if (reply.progress) {
+            worker.latest = *reply.progress;
+            if (progressed)
+                progressed(worker.order->id, worker.latest);
+        } else if (reply.answer) {
+            if (worker.bytes >= mostBytes || reply.answer->survey.outOfMemory)
+                worker.leave();
+            end(worker, Ending::Kind::Answered, QString(), *reply.answer);
+        } else {
+            worker.process.kill();
+        }
+    }
+}
+
+void Workers::end(Worker &worker, Ending::Kind kind, const QString &message,
+                  const survey::Conversion &answer)
+{
+    worker.timer.stop();
+    if (!worker.order)
+        return;
+    const int id = worker.order->id;
+    worker.order.reset();
+    const bool isLoaded = worker.latest.total > 0 && worker.latest.done >= worker.latest.total;
+    ended(id, {kind, answer, !isLoaded, message});
+    work();
+}
+
+} // namespace delivery
