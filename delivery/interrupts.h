@@ -17,7 +17,7 @@ namespace delivery
 class Interrupts
 {
 public:
-    explicit Interrupts(const std::function<void()> &heard);
+    explicit Interrupts(std::function<void()> heard);
     ~Interrupts();
     Q_DISABLE_COPY(Interrupts)
 

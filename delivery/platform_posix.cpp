@@ -294,11 +294,11 @@ private:
 
 } // namespace
 
-Interrupts::Interrupts(const std::function<void()> &heard)
+Interrupts::Interrupts(std::function<void()> heard)
 {
     if (pipe2(wakingPipe, O_CLOEXEC | O_NONBLOCK) != 0)
         qFatal("no pipe for interrupts: %s", qPrintable(systemMessage()));
-    listener = std::make_unique<Listener>(heard);
+    listener = std::make_unique<Listener>(std::move(heard));
     caughtSignal = 0;
     struct sigaction action = {};
     action.sa_handler = wakeEventLoop;

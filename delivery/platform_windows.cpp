@@ -314,8 +314,8 @@ BOOL WINAPI noteControl(DWORD control)
 
 } // namespace
 
-Interrupts::Interrupts(const std::function<void()> &heard)
-    : listener(std::make_unique<Listener>(heard))
+Interrupts::Interrupts(std::function<void()> heard)
+    : listener(std::make_unique<Listener>(std::move(heard)))
 {
     interruptCode = 0;
     currentListener = listener.get();

@@ -34,10 +34,12 @@ QString nameOf(Kind kind)
 }
 
 // Each number of a source's counts, and what it is called.
-constexpr struct {
+struct CountName {
     QLatin1String name;
     int Counts::*number;
-} countNames[] = {
+};
+
+constexpr CountName countNames[] = {
     {QLatin1String("sections"), &Counts::sections},
     {QLatin1String("groups"), &Counts::groups},
     {QLatin1String("goods"), &Counts::goods},
@@ -145,6 +147,7 @@ QByteArray toLine(const Order &order)
         {QStringLiteral("purchase"), order.request.purchase},
         {QStringLiteral("all"), order.request.all},
         {QStringLiteral("allowEmpty"), order.request.allowEmpty},
+        {QStringLiteral("keepsTree"), order.request.keepsTree},
         {QStringLiteral("accepted"), accepted},
         {QStringLiteral("newFile"), fromText(order.newFile)},
     });
@@ -161,6 +164,7 @@ std::optional<Order> orderFrom(const QByteArray &line)
     order.request.purchase = object[QStringLiteral("purchase")].toBool();
     order.request.all = object[QStringLiteral("all")].toBool();
     order.request.allowEmpty = object[QStringLiteral("allowEmpty")].toBool();
+    order.request.keepsTree = object[QStringLiteral("keepsTree")].toBool();
     for (const QString &name : toTexts(object[QStringLiteral("accepted")])) {
         if (const std::optional<Kind> kind = kindNamed(name))
             order.request.accepted.insert(*kind);

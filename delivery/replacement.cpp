@@ -1,14 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "delivery/replacement.h"
 
-#include "delivery/interrupts.h"
-
 #include <QCryptographicHash>
-#include <QDeadlineTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QList>
-#include <QThread>
 
 #include <utility>
 
@@ -21,7 +17,7 @@ static QList<Replacement *> &replacements()
     return all;
 }
 
-Replacement::Replacement(const QString &destination) : destination(destination)
+Replacement::Replacement(QString destination) : destination(std::move(destination))
 {
     replacements().append(this);
 }
@@ -63,22 +59,9 @@ static QString inFolderOf(const QString &file, const QString &name)
     return file.left(file.size() - QFileInfo(file).fileName().size()) + name;
 }
 
-bool Replacement::prepare(const QString &sourcePath, int waitSeconds)
+bool Replacement::prepare(const QString &sourcePath)
 {
     source = sourcePath;
-    constexpr qint64 second = 1000;
-    constexpr unsigned long pause = 50;
-    const QDeadlineTimer deadline(waitSeconds * second);
-    while (!tryToPrepare()) {
-        if (why != Hindrance::Held || deadline.hasExpired() || Interrupts::exitCode() != 0)
-            return false;
-        QThread::msleep(pause);
-    }
-    return true;
-}
-
-bool Replacement::tryToPrepare()
-{
     why = Hindrance::None;
     systemSays.clear();
     meant = withoutLinks(destination);

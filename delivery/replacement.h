@@ -17,7 +17,7 @@ namespace delivery
 class Replacement
 {
 public:
-    explicit Replacement(const QString &destination);
+    explicit Replacement(QString destination);
 
     /// Removes a new file that was not committed.
     ~Replacement();
@@ -41,9 +41,9 @@ public:
     };
 
     /// Creates the new file, unless something of the old one, or of the source, is in the way; one
-    /// that a killed run left is removed. A destination that is held is waited for, `waitSeconds`
-    /// at most and until an interrupt comes. Can be called again where it failed.
-    bool prepare(const QString &source, int waitSeconds);
+    /// that a killed run left is removed. Can be called again where it failed, as when another run
+    /// has held the destination.
+    bool prepare(const QString &source);
 
     /// The file to write; null unless it is prepared. Its name is one that no user gives.
     const QString &newFile() const { return created.path(); }
@@ -74,7 +74,6 @@ public:
     const QString &message() const { return systemSays; }
 
 private:
-    bool tryToPrepare();
     bool isSuitable();
     bool isWhole(qint64 size, const QByteArray &sha256) const;
     bool hasEqualBytes() const;

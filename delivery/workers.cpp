@@ -5,7 +5,6 @@
 
 #include <QFileInfo>
 #include <QProcess>
-#include <QTimer>
 
 #include <algorithm>
 #include <utility>
@@ -58,7 +57,11 @@ public:
     }
 };
 
-Workers::Workers(const Setup &setup) : setup(setup), context(std::make_unique<QObject>()) {}
+Workers::Workers(Setup setup) : setup(std::move(setup))
+{
+    giving.setSingleShot(true);
+    QObject::connect(&giving, &QTimer::timeout, &giving, [this] { giveOrders(); });
+}
 
 Workers::~Workers()
 {
@@ -67,15 +70,7 @@ Workers::~Workers()
 
 void Workers::work()
 {
-    if (std::exchange(isAwaited, true))
-        return;
-    QMetaObject::invokeMethod(
-        context.get(),
-        [this] {
-            isAwaited = false;
-            giveOrders();
-        },
-        Qt::QueuedConnection);
+    giving.start(0);
 }
 
 bool Workers::areIdle() const

@@ -5,8 +5,8 @@
 
 #include "delivery/protocol.h"
 
-#include <QObject>
 #include <QStringList>
+#include <QTimer>
 
 #include <chrono>
 #include <functional>
@@ -46,7 +46,7 @@ public:
         std::chrono::milliseconds limit{}; ///< for each order; 0: there is none
     };
 
-    explicit Workers(const Setup &setup);
+    explicit Workers(Setup setup);
     ~Workers();
     Q_DISABLE_COPY(Workers)
 
@@ -81,8 +81,7 @@ private:
 
     Setup setup;
     std::vector<std::unique_ptr<Worker>> workers;
-    std::unique_ptr<QObject> context; ///< has the event loop call giveOrders()
-    bool isAwaited = false;           ///< it will
+    QTimer giving; ///< has the event loop call giveOrders()
     bool isStopped = false;
 };
 

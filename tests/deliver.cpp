@@ -13,8 +13,10 @@
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
+#include <QDeadlineTimer>
 #include <QFile>
 #include <QThread>
+#include <QTimer>
 
 #include <cstdio>
 #include <cstdlib>
@@ -117,7 +119,7 @@ int main(int argc, char *argv[])
                      copy});
 
     const int keep = option(arguments, "--keep");
-    const int wait = option(arguments, "--wait");
+    const QDeadlineTimer deadline(option(arguments, "--wait") * 1000);
     std::map<int, Replacement> replacements;
     int next = 0;
     int exitCode = 0;
@@ -127,6 +129,10 @@ int main(int argc, char *argv[])
     };
 
     Workers workers({QCoreApplication::applicationFilePath(), {workerArgument}, 2, {}});
+    QTimer retry;
+    retry.setSingleShot(true);
+    retry.setInterval(50);
+    QObject::connect(&retry, &QTimer::timeout, [&] { workers.work(); });
     const delivery::Interrupts interrupts([&] {
         workers.stop();
         QCoreApplication::exit(delivery::Interrupts::exitCode());
@@ -136,10 +142,14 @@ int main(int argc, char *argv[])
             const QString source = arguments.at(2 * next);
             Replacement &replacement =
                 replacements.try_emplace(next, arguments.at(2 * next + 1)).first->second;
-            if (replacement.prepare(source, wait)) {
+            if (replacement.prepare(source)) {
                 survey::Request request;
                 request.source = source;
                 return Order{next++, request, replacement.newFile()};
+            }
+            if (replacement.hindrance() == Replacement::Hindrance::Held && !deadline.hasExpired()) {
+                retry.start();
+                return {};
             }
             fail(next, nameOf(replacement.hindrance()));
         }

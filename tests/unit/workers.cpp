@@ -114,13 +114,14 @@ private slots:
         order.id = 7;
         order.request.source = text;
         order.request.purchase = true;
+        order.request.keepsTree = true;
         order.request.accepted = {Kind::NoLines, Kind::NoCode};
         const std::optional<Order> sameOrder = orderFrom(toLine(order));
         QVERIFY(sameOrder);
         QCOMPARE(sameOrder->id, 7);
         QCOMPARE(sameOrder->request.source, text);
         QVERIFY(sameOrder->request.purchase && !sameOrder->request.all);
-        QVERIFY(!sameOrder->request.allowEmpty);
+        QVERIFY(sameOrder->request.keepsTree && !sameOrder->request.allowEmpty);
         QVERIFY(sameOrder->request.accepted == order.request.accepted);
         QVERIFY(sameOrder->newFile.isNull());
 
