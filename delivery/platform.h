@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <cstdio>
+#include <optional>
 
 class QProcess;
 
@@ -64,16 +65,16 @@ public:
     bool isInPlace() const;
 
     /// Whether it can be given owner and group of `old`.
-    bool canKeepOwner(const QString &old);
+    bool canKeepOwner(const QString &old) const;
 
     /// Gives it owner, group and rights of `old`.
-    bool keepRights(const QString &old);
+    bool keepRights(const QString &old) const;
 
     /// Gives it the rights of a file that any program creates.
-    bool takeUsualRights();
+    bool takeUsualRights() const;
 
     /// Brings its bytes to the disk.
-    bool flush();
+    bool flush() const;
 
     /// Gives it the name `destination`, in place of what has it, and forgets it.
     bool renameTo(const QString &destination);
@@ -81,6 +82,7 @@ public:
     void remove();
 
 private:
+    std::optional<Creation> tryToCreate(const QString &newPath);
     void close();
 
     QString ownPath;

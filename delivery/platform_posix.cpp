@@ -80,48 +80,52 @@ QString systemMessage()
 NewFile::Creation NewFile::create(const QString &newPath)
 {
     remove();
-    const QByteArray name = QFile::encodeName(newPath);
     // Others may create and remove it at the same time, but not without end.
     constexpr int mostAttempts = 100;
     for (int attempt = 0; attempt < mostAttempts; ++attempt) {
-        int file = open(name.constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR);
-        const bool isOurs = file >= 0;
-        if (!isOurs && errno == EEXIST)
-            file = open(name.constData(), O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
-        if (file < 0) {
-            if (errno == ENOENT &&
-                stateOf(QFileInfo(newPath).path()).kind != FileState::Kind::Nothing)
-                continue;
-            return Creation::Failed;
-        }
-        handle = file;
-        ownPath = newPath;
-        if (flock(file, LOCK_EX | LOCK_NB) != 0) {
-            const bool isHeld = errno == EWOULDBLOCK;
-            if (isOurs && !isHeld)
-                remove();
-            close();
-            if (!isHeld)
-                return Creation::Failed;
-            if (!isOurs)
-                return Creation::Held;
-            // Another run took it for a leftover ahead of our lock, and removes it.
-            continue;
-        }
-        // Whoever had the lock before may have renamed or removed the file.
-        if (!isInPlace()) {
-            close();
-            continue;
-        }
-        if (isOurs)
-            return Creation::Created;
-        // A killed run left it: with the lock in our hands nobody else holds it, or removes it.
-        const bool isRemoved = unlink(name.constData()) == 0;
-        close();
-        if (!isRemoved)
-            return Creation::Failed;
+        if (const std::optional<Creation> creation = tryToCreate(newPath))
+            return *creation;
     }
     return Creation::Held;
+}
+
+/// Nothing, where it is worth another attempt.
+std::optional<NewFile::Creation> NewFile::tryToCreate(const QString &newPath)
+{
+    const QByteArray name = QFile::encodeName(newPath);
+    int file = open(name.constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR);
+    const bool isOurs = file >= 0;
+    if (!isOurs && errno == EEXIST)
+        file = open(name.constData(), O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+    if (file < 0) {
+        if (errno == ENOENT && stateOf(QFileInfo(newPath).path()).kind != FileState::Kind::Nothing)
+            return std::nullopt;
+        return Creation::Failed;
+    }
+    handle = file;
+    ownPath = newPath;
+    if (flock(file, LOCK_EX | LOCK_NB) != 0) {
+        if (errno == EWOULDBLOCK) {
+            close();
+            // Another run took ours for a leftover ahead of our lock, and removes it.
+            return isOurs ? std::nullopt : std::optional(Creation::Held);
+        }
+        if (isOurs)
+            remove();
+        close();
+        return Creation::Failed;
+    }
+    // Whoever had the lock before may have renamed or removed the file.
+    if (!isInPlace()) {
+        close();
+        return std::nullopt;
+    }
+    if (isOurs)
+        return Creation::Created;
+    // A killed run left it: with the lock in our hands nobody else holds it, or removes it.
+    const bool isRemoved = unlink(name.constData()) == 0;
+    close();
+    return isRemoved ? std::nullopt : std::optional(Creation::Failed);
 }
 
 bool NewFile::isInPlace() const
@@ -132,7 +136,7 @@ bool NewFile::isInPlace() const
            lstat(QFile::encodeName(ownPath).constData(), &there) == 0 && isSame(own, there);
 }
 
-bool NewFile::canKeepOwner(const QString &old)
+bool NewFile::canKeepOwner(const QString &old) const
 {
     struct stat own = {};
     struct stat status = {};
@@ -144,7 +148,7 @@ bool NewFile::canKeepOwner(const QString &old)
            fchown(file, own.st_uid, gid_t(-1)) == 0;
 }
 
-bool NewFile::keepRights(const QString &old)
+bool NewFile::keepRights(const QString &old) const
 {
     const QByteArray name = QFile::encodeName(old);
     const int file = int(handle);
@@ -163,14 +167,14 @@ bool NewFile::keepRights(const QString &old)
     return fremovexattr(file, list) == 0 || errno == ENODATA || errno == ENOTSUP;
 }
 
-bool NewFile::takeUsualRights()
+bool NewFile::takeUsualRights() const
 {
     const mode_t mask = umask(0);
     umask(mask);
     return fchmod(int(handle), mode_t(0666) & ~mask) == 0;
 }
 
-bool NewFile::flush()
+bool NewFile::flush() const
 {
     if (fsync(int(handle)) != 0)
         return false;

@@ -130,47 +130,76 @@ static bool lock(HANDLE handle)
                       &place) != 0;
 }
 
+/// Whether a folder still has a name, be it of a file that was removed and is open.
+static bool isListed(const QString &path)
+{
+    WIN32_FIND_DATAW entry = {};
+    HANDLE search = FindFirstFileW(native(path).c_str(), &entry);
+    if (search == INVALID_HANDLE_VALUE)
+        return false;
+    FindClose(search);
+    return true;
+}
+
+/// Whether a failure to open, rename or remove a file may pass: scanners and indexers open files as
+/// they come, and lock them for a moment.
+static bool mayPass(DWORD failure)
+{
+    return failure == ERROR_SHARING_VIOLATION || failure == ERROR_LOCK_VIOLATION ||
+           failure == ERROR_ACCESS_DENIED || failure == ERROR_DELETE_PENDING;
+}
+
 NewFile::Creation NewFile::create(const QString &newPath)
 {
     remove();
     // Others may create and remove it at the same time, but not without end; and a file that was
-    // removed keeps its name for as long as somebody has it open.
-    constexpr int mostAttempts = 100;
-    for (int attempt = 0; attempt < mostAttempts; ++attempt) {
-        constexpr DWORD access = GENERIC_READ | GENERIC_WRITE;
-        HANDLE file = CreateFileW(native(newPath).c_str(), access, sharedByAll, nullptr, CREATE_NEW,
-                                  FILE_ATTRIBUTE_NORMAL, nullptr);
-        const bool isOurs = file != INVALID_HANDLE_VALUE;
-        if (!isOurs && GetLastError() == ERROR_FILE_EXISTS)
-            file = openExisting(newPath, access);
-        if (file == INVALID_HANDLE_VALUE) {
-            if (GetLastError() == ERROR_FILE_NOT_FOUND)
-                continue;
-            return Creation::Failed;
-        }
-        handle = reinterpret_cast<qintptr>(file);
-        ownPath = newPath;
-        if (!lock(file)) {
-            close();
-            if (!isOurs)
-                return Creation::Held;
-            // Another run took it for a leftover ahead of our lock, and removes it.
-            continue;
-        }
-        // Whoever had the lock before may have renamed or removed the file.
-        if (!isInPlace()) {
-            close();
-            continue;
-        }
-        if (isOurs)
-            return Creation::Created;
-        // A killed run left it: with the lock in our hands nobody else holds it, or removes it.
-        const bool isRemoved = DeleteFileW(native(newPath).c_str()) != 0;
-        close();
-        if (!isRemoved)
-            return Creation::Failed;
+    // removed keeps its name, and is not to be opened, for as long as somebody has it open.
+    constexpr qint64 patience = 500;
+    constexpr unsigned long pause = 5;
+    const QDeadlineTimer deadline(patience);
+    for (;;) {
+        if (const std::optional<Creation> creation = tryToCreate(newPath))
+            return *creation;
+        if (deadline.hasExpired())
+            return GetLastError() == ERROR_ACCESS_DENIED ? Creation::Failed : Creation::Held;
+        QThread::msleep(pause);
     }
-    return Creation::Held;
+}
+
+/// Nothing, where it is worth another attempt.
+std::optional<NewFile::Creation> NewFile::tryToCreate(const QString &newPath)
+{
+    constexpr DWORD access = GENERIC_READ | GENERIC_WRITE;
+    HANDLE file = CreateFileW(native(newPath).c_str(), access, sharedByAll, nullptr, CREATE_NEW,
+                              FILE_ATTRIBUTE_NORMAL, nullptr);
+    const bool isOurs = file != INVALID_HANDLE_VALUE;
+    if (!isOurs && GetLastError() == ERROR_FILE_EXISTS)
+        file = openExisting(newPath, access);
+    if (file == INVALID_HANDLE_VALUE) {
+        const DWORD failure = GetLastError();
+        const bool isWorthIt =
+            failure == ERROR_FILE_NOT_FOUND || (mayPass(failure) && isListed(newPath));
+        SetLastError(failure);
+        return isWorthIt ? std::nullopt : std::optional(Creation::Failed);
+    }
+    handle = reinterpret_cast<qintptr>(file);
+    ownPath = newPath;
+    if (!lock(file)) {
+        close();
+        // Another run took ours for a leftover ahead of our lock, and removes it.
+        return isOurs ? std::nullopt : std::optional(Creation::Held);
+    }
+    // Whoever had the lock before may have renamed or removed the file.
+    if (!isInPlace()) {
+        close();
+        return std::nullopt;
+    }
+    if (isOurs)
+        return Creation::Created;
+    // A killed run left it: with the lock in our hands nobody else holds it, or removes it.
+    const bool isRemoved = DeleteFileW(native(newPath).c_str()) != 0;
+    close();
+    return isRemoved || mayPass(GetLastError()) ? std::nullopt : std::optional(Creation::Failed);
 }
 
 bool NewFile::isInPlace() const
@@ -178,38 +207,34 @@ bool NewFile::isInPlace() const
     return delivery::stateOf(toHandle(handle)).isSameAs(stateOf(ownPath));
 }
 
-bool NewFile::canKeepOwner(const QString & /*old*/)
+bool NewFile::canKeepOwner(const QString & /*old*/) const
 {
     return true;
 }
 
-bool NewFile::keepRights(const QString & /*old*/)
+bool NewFile::keepRights(const QString & /*old*/) const
 {
     // Files have the rights that their folder gives them.
     return true;
 }
 
-bool NewFile::takeUsualRights()
+bool NewFile::takeUsualRights() const
 {
     return true;
 }
 
-bool NewFile::flush()
+bool NewFile::flush() const
 {
     return FlushFileBuffers(toHandle(handle)) != 0;
 }
 
 bool NewFile::renameTo(const QString &destination)
 {
-    // Scanners and indexers open files as they come, and lock them for a moment.
     constexpr qint64 patience = 2'000;
     constexpr unsigned long pause = 50;
     const QDeadlineTimer deadline(patience);
     while (!renameFile(ownPath, destination)) {
-        const DWORD failure = GetLastError();
-        const bool mayPass = failure == ERROR_SHARING_VIOLATION || failure == ERROR_ACCESS_DENIED ||
-                             failure == ERROR_LOCK_VIOLATION;
-        if (!mayPass || deadline.hasExpired())
+        if (!mayPass(GetLastError()) || deadline.hasExpired())
             return false;
         QThread::msleep(pause);
     }

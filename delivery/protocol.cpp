@@ -35,18 +35,15 @@ QString nameOf(Kind kind)
 
 // Each number of a source's counts, and what it is called.
 struct CountName {
-    QLatin1String name;
+    const char *name;
     int Counts::*number;
 };
 
 constexpr CountName countNames[] = {
-    {QLatin1String("sections"), &Counts::sections},
-    {QLatin1String("groups"), &Counts::groups},
-    {QLatin1String("goods"), &Counts::goods},
-    {QLatin1String("offers"), &Counts::offers},
-    {QLatin1String("partners"), &Counts::partners},
-    {QLatin1String("documents"), &Counts::documents},
-    {QLatin1String("lines"), &Counts::lines},
+    {"sections", &Counts::sections}, {"groups", &Counts::groups},
+    {"goods", &Counts::goods},       {"offers", &Counts::offers},
+    {"partners", &Counts::partners}, {"documents", &Counts::documents},
+    {"lines", &Counts::lines},
 };
 
 QJsonObject toJson(const Finding &finding)
@@ -65,7 +62,7 @@ QJsonObject toJson(const Finding &finding)
 QStringList toTexts(const QJsonValue &value)
 {
     QStringList texts;
-    for (const QJsonValue &text : value.toArray())
+    for (const auto &text : value.toArray())
         texts.append(text.toString());
     return texts;
 }
@@ -88,7 +85,7 @@ QJsonObject toJson(const Survey &survey)
 {
     QJsonObject counts;
     for (const auto &count : countNames)
-        counts.insert(count.name, survey.counts.*count.number);
+        counts.insert(QLatin1String(count.name), survey.counts.*count.number);
     QJsonObject found;
     for (auto it = survey.found.cbegin(); it != survey.found.cend(); ++it)
         found.insert(nameOf(it.key()), it.value());
@@ -115,7 +112,7 @@ std::optional<Survey> surveyFrom(const QJsonObject &object)
     survey.date = toText(object[QStringLiteral("date")]);
     const QJsonObject counts = object[QStringLiteral("counts")].toObject();
     for (const auto &count : countNames)
-        survey.counts.*count.number = counts[count.name].toInt();
+        survey.counts.*count.number = counts[QLatin1String(count.name)].toInt();
     const QJsonObject found = object[QStringLiteral("found")].toObject();
     for (auto it = found.constBegin(); it != found.constEnd(); ++it) {
         const std::optional<Kind> kind = kindNamed(it.key());
@@ -123,7 +120,7 @@ std::optional<Survey> surveyFrom(const QJsonObject &object)
             return {};
         survey.found.insert(*kind, it.value().toInt());
     }
-    for (const QJsonValue &value : object[QStringLiteral("findings")].toArray()) {
+    for (const auto &value : object[QStringLiteral("findings")].toArray()) {
         const std::optional<Finding> finding = findingFrom(value.toObject());
         if (!finding)
             return {};

@@ -119,7 +119,7 @@ int main(int argc, char *argv[])
                      copy});
 
     const int keep = option(arguments, "--keep");
-    const QDeadlineTimer deadline(option(arguments, "--wait") * 1000);
+    const QDeadlineTimer deadline(qint64(1000) * option(arguments, "--wait"));
     std::map<int, Replacement> replacements;
     int next = 0;
     int exitCode = 0;
@@ -139,7 +139,7 @@ int main(int argc, char *argv[])
     });
     workers.next = [&]() -> std::optional<Order> {
         for (; next < arguments.size() / 2; ++next) {
-            const QString source = arguments.at(2 * next);
+            const QString &source = arguments.at(2 * next);
             Replacement &replacement =
                 replacements.try_emplace(next, arguments.at(2 * next + 1)).first->second;
             if (replacement.prepare(source)) {

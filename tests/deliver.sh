@@ -87,7 +87,7 @@ for victim in batch worker; do
             cmp out/goods.txt.1 old.txt
         fi
     done
-    [ "$committed" -gt 0 ] && [ "$committed" -lt 40 ] ||
+    ((committed > 0 && committed < 40)) ||
         fail "40 moments of killing the $victim: $committed runs had ended"
 done
 

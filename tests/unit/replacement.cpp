@@ -298,6 +298,7 @@ private slots:
         std::atomic<int> faults = 0;
         std::atomic<int> times = 0;
         std::vector<std::thread> threads;
+        threads.reserve(4);
         for (int thread = 0; thread < 4; ++thread) {
             threads.emplace_back([&, thread] {
                 for (int i = 0; i < 1000; ++i) {

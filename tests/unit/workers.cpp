@@ -126,7 +126,7 @@ private slots:
         QVERIFY(sameOrder->newFile.isNull());
 
         QVERIFY(!orderFrom("garbage\n"));
-        const Reply none = replyFrom("{\"survey\":{\"found\":{\"no-such-kind\":1}}}");
+        const Reply none = replyFrom(R"({"survey":{"found":{"no-such-kind":1}}})");
         QVERIFY(!none.answer && !none.progress);
     }
 
@@ -196,6 +196,8 @@ private slots:
     void stop()
     {
         QEventLoop loop;
+        QTimer timer;
+        connect(&timer, &QTimer::timeout, &loop, &QEventLoop::quit);
         Workers workers({DELIVER, {workerArgument}, 2, {}});
         QStringList sources = {"a", "hang"};
         qint64 pid = 0;
@@ -212,7 +214,7 @@ private slots:
             workers.stop();
             sources.append("b");
             workers.work();
-            QTimer::singleShot(100, &loop, &QEventLoop::quit);
+            timer.start(100);
         };
         workers.work();
         loop.exec();
