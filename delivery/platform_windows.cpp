@@ -300,6 +300,7 @@ static HANDLE makeJob()
 
 void tieToThisProcess(const QProcess &worker)
 {
+    // One that is left behind before this has no order yet, and ends with its pipe.
     static const HANDLE job = makeJob();
     const Handle process(
         OpenProcess(PROCESS_SET_QUOTA | PROCESS_TERMINATE, FALSE, DWORD(worker.processId())));

@@ -38,8 +38,10 @@ survey::Survey carryOut(const QByteArray &word, const survey::Request &request)
         std::abort();
     if (word == "leave")
         std::_Exit(3);
-    if (word == "hang")
+    if (word == "hang") {
+        std::cerr << "hanging" << std::endl;
         QThread::sleep(1000);
+    }
     if (word == "memory")
         throw std::bad_alloc();
     if (word == "progress") {

@@ -2,6 +2,7 @@
 #include "delivery/replacement.h"
 
 #include <QCryptographicHash>
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -154,7 +155,10 @@ private slots:
         QTest::newRow("cut") << edit([](QFile &file) { file.resize(2); });
         QTest::newRow("longer") << edit([](QFile &file) { file.resize(4); });
         QTest::newRow("other bytes") << edit([](QFile &file) { file.write("x"); });
+#ifdef Q_OS_UNIX
+        // On wine a file that was removed while it was open can be opened again.
         QTest::newRow("gone") << Change([](const QString &newFile) { QFile::remove(newFile); });
+#endif
         QTest::newRow("another file") << Change([](const QString &newFile) {
             QFile::rename(newFile, newFile + "x");
             QFile::copy(newFile + "x", newFile);
@@ -189,6 +193,7 @@ private slots:
         QTest::newRow("up") << "folder/.." << Hindrance::NotRegular;
         QTest::newRow("source") << "source" << Hindrance::IsSource;
         QTest::newRow("source, another path") << "folder/../source" << Hindrance::IsSource;
+        QTest::newRow("read-only") << "read-only" << Hindrance::NotWritable;
         QTest::newRow("two names") << "linked" << Hindrance::HasMoreNames;
         QTest::newRow("two names, one of the source") << "source-linked" << Hindrance::IsSource;
 #ifdef Q_OS_UNIX
@@ -200,7 +205,6 @@ private slots:
         QTest::newRow("link into no folder") << "to-missing" << Hindrance::NoFolder;
 #else
         QTest::newRow("device") << "NUL" << Hindrance::NotRegular;
-        QTest::newRow("read-only") << "read-only" << Hindrance::NotWritable;
 #endif
     }
 
@@ -219,6 +223,8 @@ private slots:
                 QFile::link("source", at("to-source")) && QFile::link("no/new", at("to-missing")));
 #endif
         QVERIFY(QFile(write("read-only", "")).setPermissions(QFile::ReadOwner));
+        if (destination == "read-only" && QFile(at(destination)).open(QIODevice::Append))
+            QSKIP("who runs this may write everything");
         const QStringList before = names();
 
         const QString path = QDir::isAbsolutePath(destination) || destination == "NUL"
@@ -297,11 +303,13 @@ private slots:
         std::atomic<int> holders = 0;
         std::atomic<int> faults = 0;
         std::atomic<int> times = 0;
+        const QDeadlineTimer deadline(20'000);
         std::vector<std::thread> threads;
         threads.reserve(4);
         for (int thread = 0; thread < 4; ++thread) {
             threads.emplace_back([&, thread] {
-                for (int i = 0; i < 1000; ++i) {
+                // Attempts of whom the others lock out are over at once.
+                for (int i = 0; times < 200 && !deadline.hasExpired(); ++i) {
                     if ((i + thread) % 4 == 0) {
                         QFile leftover(at("new"));
                         leftover.open(QIODevice::ReadWrite);
@@ -323,7 +331,7 @@ private slots:
         for (std::thread &thread : threads)
             thread.join();
         QCOMPARE(faults.load(), 0);
-        QVERIFY(times > 100);
+        QVERIFY(times >= 200);
     }
 
     void keepOldFiles()
@@ -408,28 +416,55 @@ private slots:
         QCOMPARE(linked.hindrance(), Hindrance::Held);
     }
 #else
+    /// Another program has a file open, and shares no more than reading; it closes it after `time`.
+    static std::thread openElsewhere(const QString &path, unsigned long time)
+    {
+        HANDLE other = CreateFileW(path.toStdWString().c_str(), GENERIC_READ, FILE_SHARE_READ,
+                                   nullptr, OPEN_EXISTING, 0, nullptr);
+        if (other == INVALID_HANDLE_VALUE)
+            qFatal("can't open");
+        return std::thread([other, time] {
+            Sleep(time);
+            CloseHandle(other);
+        });
+    }
+
+    void lockedLeftovers()
+    {
+        Replacement replacement(at("new"));
+        QVERIFY(replacement.prepare(at("source")));
+        const QString name = replacement.newFile();
+        replacement.discard();
+        for (const bool isPassing : {false, true}) {
+            QVERIFY(QFile::copy(at("source"), name));
+            std::thread closing = openElsewhere(name, isPassing ? 200 : 2000);
+            const bool isPrepared = replacement.prepare(at("source"));
+            closing.join();
+            QCOMPARE(isPrepared, isPassing);
+            QCOMPARE(replacement.hindrance(), isPassing ? Hindrance::None : Hindrance::Held);
+            QVERIFY(isPassing || QFile::remove(name));
+        }
+    }
+
     /// Another program has the old file open.
     void lockedFiles()
     {
-        write("old", "old");
-        for (const bool isPassing : {false, true}) {
+        for (const bool isPassing : {true, false}) {
+            write("old", "old");
             Replacement replacement(at("old"));
             QVERIFY(replacement.prepare(at("source")) && fill(replacement, "new"));
-            HANDLE other = CreateFileW(at("old").toStdWString().c_str(), GENERIC_READ,
-                                       FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
-            QVERIFY(other != INVALID_HANDLE_VALUE);
-            std::thread closing([&] {
-                Sleep(isPassing ? 500 : 3000);
-                CloseHandle(other);
-            });
+            std::thread closing = openElsewhere(at("old"), isPassing ? 500 : 3000);
             Outcome outcome = {};
             const bool isCommitted = commit(replacement, "new", 1, outcome);
             closing.join();
             QCOMPARE(isCommitted, isPassing);
             QCOMPARE(replacement.hindrance(), isPassing ? Hindrance::None : Hindrance::NotRenamed);
             QCOMPARE(read("old"), QByteArray(isPassing ? "new" : "old"));
-            QCOMPARE(read("old.1"), QByteArray(isPassing ? "old" : "missing"));
         }
+        // The second name of a locked file can't be removed; the next run is none the worse for it.
+        QCOMPARE(replace(at("old"), "new", 1).hindrance, Hindrance::None);
+        QCOMPARE(names(), QStringList({"old", "old.1", "source"}));
+        QCOMPARE(read("old") + read("old.1"), QByteArray("newold"));
     }
 #endif
 };

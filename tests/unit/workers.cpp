@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QProcess>
 #include <QSet>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -224,6 +225,27 @@ private slots:
         QVERIFY(kill(pid_t(pid), 0) != 0 && errno == ESRCH);
 #endif
     }
+
+#ifdef Q_OS_WIN
+    /// What deliver.sh tries elsewhere: a batch is killed.
+    void endWithTheirBatch()
+    {
+        QTemporaryDir folder;
+        QFile source(folder.filePath("source"));
+        QVERIFY(source.open(QIODevice::WriteOnly) && source.write("hang ") == 5);
+        source.close();
+        QProcess batch;
+        batch.start(DELIVER, {source.fileName(), folder.filePath("new")});
+        QVERIFY(batch.waitForStarted());
+        batch.setReadChannel(QProcess::StandardError);
+        QTRY_VERIFY(batch.canReadLine());
+        // A worker has its source open.
+        QVERIFY(!source.remove());
+        batch.kill();
+        QVERIFY(batch.waitForFinished());
+        QTRY_VERIFY(source.remove() || !source.exists());
+    }
+#endif
 };
 
 QTEST_GUILESS_MAIN(WorkersTest)
