@@ -193,10 +193,3 @@ chown 1234:0 out/other.txt
 expect 4 'out/other.txt: OwnerNotKept' as_other ./deliver old.txt out/other.txt
 cmp out/other.txt new.txt
 [ "$(ls -A out)" = $'goods.txt\ngoods.txt.1\nother.txt' ] || fail "in the folder: $(ls -A out)"
-
-# So does a list of rights.
-if command -v setfacl >/dev/null && setfacl -m u:1236:r out/goods.txt 2>/dev/null; then
-    rights=$(getfacl -pn out/goods.txt)
-    expect 0 'out/goods.txt: replaced' ./deliver new.txt out/goods.txt
-    [ "$(getfacl -pn out/goods.txt)" = "$rights" ] || fail "$(getfacl -pn out/goods.txt)"
-fi

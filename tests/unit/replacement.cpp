@@ -15,6 +15,7 @@
 #include <vector>
 #ifdef Q_OS_UNIX
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 #else
 #include <qt_windows.h>
@@ -393,6 +394,38 @@ private slots:
             QCOMPARE(modeOf(at("new")), mode == 0 ? 0640U : mode);
         }
         umask(mask);
+    }
+
+    void listsOfRights()
+    {
+        // Its owner may read and write, the user 1236 may read, and nobody else anything.
+        const QByteArray rights = QByteArray::fromHex("02000000"
+                                                      "01000600ffffffff"
+                                                      "02000400d4040000"
+                                                      "04000000ffffffff"
+                                                      "10000400ffffffff"
+                                                      "20000000ffffffff");
+        const char *const list = "system.posix_acl_access";
+        const QByteArray path = QFile::encodeName(write("old", "old"));
+        const auto listOf = [&] {
+            QByteArray found(100, '\0');
+            const ssize_t size =
+                getxattr(path.constData(), list, found.data(), std::size_t(found.size()));
+            return found.left(int(qMax<ssize_t>(size, 0)));
+        };
+        if (setxattr(path.constData(), list, rights.constData(), std::size_t(rights.size()), 0) !=
+            0)
+            QSKIP("this file system has no lists of rights");
+        QCOMPARE(replace(at("old"), "new").outcome, Outcome::Replaced);
+        QCOMPARE(listOf(), rights);
+
+        // The list that the folder gives to new files is not that of an old one without.
+        QCOMPARE(removexattr(path.constData(), list), 0);
+        QCOMPARE(setxattr(QFile::encodeName(folder->path()).constData(), "system.posix_acl_default",
+                          rights.constData(), std::size_t(rights.size()), 0),
+                 0);
+        QCOMPARE(replace(at("old"), "two").outcome, Outcome::Replaced);
+        QCOMPARE(listOf(), QByteArray());
     }
 
     void links()
