@@ -40,8 +40,8 @@ bool mayWrite(const QString &path);
 /// The latest failure of this process, in the words of the system.
 QString systemMessage();
 
-/// A file that this process has created, readable to nobody else, and holds locked: by the lock a
-/// file that is being written is told from what a killed run left.
+/// A file that this process has created, readable to nobody else where files have modes, and holds
+/// locked: by the lock a file that is being written is told from what a killed run left.
 class NewFile
 {
 public:

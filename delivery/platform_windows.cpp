@@ -2,8 +2,10 @@
 #include "delivery/interrupts.h"
 #include "delivery/platform.h"
 
+#include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QDir>
+#include <QEvent>
 #include <QFileInfo>
 #include <QProcess>
 #include <QThread>
@@ -19,14 +21,19 @@ namespace delivery
 
 constexpr DWORD sharedByAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
+static HANDLE toHandle(qintptr handle)
+{
+    return reinterpret_cast<HANDLE>(handle); // NOLINT(performance-no-int-to-ptr)
+}
+
 /// A path as the system takes it, also where it is long.
 static std::wstring native(const QString &path)
 {
     constexpr int longest = 240;
     QString name = QDir::toNativeSeparators(path);
     const QString whole = QDir::toNativeSeparators(QFileInfo(path).absoluteFilePath());
-    if (whole.size() > longest && !whole.startsWith(QLatin1String("\\\\")))
-        name = QLatin1String("\\\\?\\") + whole;
+    if (whole.size() > longest && !whole.startsWith(QLatin1String(R"(\\)")))
+        name = QLatin1String(R"(\\?\)") + whole;
     return name.toStdWString();
 }
 
@@ -97,9 +104,9 @@ QString withoutLinks(const QString &path)
     std::wstring name(longest, L'\0');
     name.resize(GetFinalPathNameByHandleW(handle.get(), name.data(), longest, 0));
     QString meant = QString::fromStdWString(name);
-    if (meant.startsWith(QLatin1String("\\\\?\\UNC\\")))
+    if (meant.startsWith(QLatin1String(R"(\\?\UNC\)")))
         return QDir::fromNativeSeparators(QLatin1Char('\\') + meant.mid(7));
-    if (meant.startsWith(QLatin1String("\\\\?\\")))
+    if (meant.startsWith(QLatin1String(R"(\\?\)")))
         meant.remove(0, 4);
     return QDir::fromNativeSeparators(meant);
 }
@@ -114,11 +121,6 @@ bool mayWrite(const QString &path)
 QString systemMessage()
 {
     return qt_error_string(int(GetLastError()));
-}
-
-static HANDLE toHandle(qintptr handle)
-{
-    return reinterpret_cast<HANDLE>(handle);
 }
 
 /// Locks a byte that no file reaches: locks here keep others from reading and writing.
@@ -207,6 +209,8 @@ bool NewFile::isInPlace() const
     return delivery::stateOf(toHandle(handle)).isSameAs(stateOf(ownPath));
 }
 
+// Files have the owner and the rights that their folder gives them.
+// NOLINTBEGIN(readability-convert-member-functions-to-static)
 bool NewFile::canKeepOwner(const QString & /*old*/) const
 {
     return true;
@@ -214,7 +218,6 @@ bool NewFile::canKeepOwner(const QString & /*old*/) const
 
 bool NewFile::keepRights(const QString & /*old*/) const
 {
-    // Files have the rights that their folder gives them.
     return true;
 }
 
@@ -222,6 +225,8 @@ bool NewFile::takeUsualRights() const
 {
     return true;
 }
+
+// NOLINTEND(readability-convert-member-functions-to-static)
 
 bool NewFile::flush() const
 {
@@ -283,8 +288,8 @@ WorkerPipes becomeWorker()
         return {};
     _close(null);
     // Not everything asks the C library.
-    SetStdHandle(STD_INPUT_HANDLE, reinterpret_cast<HANDLE>(_get_osfhandle(0)));
-    SetStdHandle(STD_OUTPUT_HANDLE, reinterpret_cast<HANDLE>(_get_osfhandle(1)));
+    SetStdHandle(STD_INPUT_HANDLE, toHandle(_get_osfhandle(0)));
+    SetStdHandle(STD_OUTPUT_HANDLE, toHandle(_get_osfhandle(1)));
     return {_fdopen(orders, "rb"), _fdopen(answers, "wb")};
 }
 
@@ -301,7 +306,7 @@ static HANDLE makeJob()
 void tieToThisProcess(const QProcess &worker)
 {
     // One that is left behind before this has no order yet, and ends with its pipe.
-    static const HANDLE job = makeJob();
+    static HANDLE job = makeJob();
     const Handle process(
         OpenProcess(PROCESS_SET_QUOTA | PROCESS_TERMINATE, FALSE, DWORD(worker.processId())));
     AssignProcessToJobObject(job, process.get());
@@ -318,6 +323,16 @@ class Listener : public QObject
 public:
     explicit Listener(std::function<void()> heard) : heard(std::move(heard)) {}
 
+protected:
+    bool event(QEvent *event) override
+    {
+        if (event->type() != QEvent::User)
+            return QObject::event(event);
+        heard();
+        return true;
+    }
+
+private:
     std::function<void()> heard;
 };
 
@@ -329,9 +344,7 @@ BOOL WINAPI noteControl(DWORD control)
     const bool isKey = control == CTRL_C_EVENT || control == CTRL_BREAK_EVENT;
     interruptCode = isKey ? ofCtrlC : ofEnd;
     if (QObject *listener = currentListener)
-        QMetaObject::invokeMethod(
-            listener, [listener] { static_cast<Listener *>(listener)->heard(); },
-            Qt::QueuedConnection);
+        QCoreApplication::postEvent(listener, new QEvent(QEvent::User));
     // The process would be ended as soon as this returns.
     if (!isKey)
         Sleep(INFINITE);
