@@ -30,6 +30,16 @@ expect() {
 # workers_of PID: those of a batch.
 workers_of() { pgrep --parent "$1" || true; }
 
+# await_workers COUNT: has `workers` be those of `batch`, once there are as many.
+await_workers() {
+    local i
+    for ((i = 0; i < 100; ++i)); do
+        workers=$(workers_of "$batch")
+        [ "$(wc -w <<<"$workers")" -lt "$1" ] || break
+        sleep 0.01
+    done
+}
+
 # wait_for_end PID...: processes end at once when their batch has.
 wait_for_end() {
     local pid i
@@ -100,11 +110,7 @@ for signal in INT:130 TERM:143 HUP:129; do
         ./deliver hang.txt out/goods.txt hang.txt out/other.txt >/dev/null &
         batch=$!
         set +m
-        for ((i = 0; i < 100; ++i)); do
-            workers=$(workers_of "$batch")
-            [ "$(wc -w <<<"$workers")" -lt 2 ] || break
-            sleep 0.01
-        done
+        await_workers 2
         sleep 0.05
         kill "-${signal%:*}" -- "$group$batch"
         code=0
@@ -116,6 +122,26 @@ for signal in INT:130 TERM:143 HUP:129; do
         cmp out/goods.txt old.txt
     done
 done
+
+# A batch that is killed takes with it workers that would never end.
+./deliver hang.txt out/goods.txt >/dev/null 2>&1 &
+batch=$!
+await_workers 1
+sleep 0.05
+kill -KILL "$batch"
+wait "$batch" 2>wait.txt || true
+# shellcheck disable=SC2086
+wait_for_end $workers
+
+# What ends a batch is nothing to a worker, until its batch ends it.
+rm -rf out && mkdir out
+./deliver new.txt out/goods.txt >worker.txt &
+batch=$!
+await_workers 1
+sleep 0.05
+# shellcheck disable=SC2086
+kill -TERM $workers
+wait "$batch" || fail "$(<worker.txt)"
 
 # Two runs on one destination.
 rm -rf out && mkdir out
@@ -188,7 +214,8 @@ chmod 440 out/other.txt
 expect 4 'out/other.txt: NotWritable' as_other ./deliver old.txt out/other.txt
 chown 0:1235 out/other.txt
 chmod 660 out/other.txt
-expect 4 'out/other.txt: OwnerNotKept' as_other ./deliver old.txt out/other.txt
+# That is known ahead of any work.
+expect 4 'out/other.txt: OwnerNotKept' as_other timeout 10 ./deliver hang.txt out/other.txt
 chown 1234:0 out/other.txt
 expect 4 'out/other.txt: OwnerNotKept' as_other ./deliver old.txt out/other.txt
 cmp out/other.txt new.txt
