@@ -103,12 +103,14 @@ public:
         outputEnabled = QFile(path).open(QIODevice::Append | QIODevice::ExistingOnly);
         outputFileName = path;
         writer.digest = &digest;
+        writer.gathers = true;
         if (!outputEnabled || !openOutput()) {
             exportToNowhere();
             return;
         }
         exportGoods();
         exportDocs(withGoods, documentType());
+        writer.finish();
         conversion.isWritten = !writer.hasFailed();
         conversion.size = writer.size();
         conversion.digest = digest.result();
