@@ -45,8 +45,8 @@ ends_with() {
 
 find . >"$work/before"
 touch occupied
-for script in .ci/run scripts/{fuzz,package,test,windows} tests/{key-on-windows,run-conversion}.sh \
-    checks/{from-zip,hardened,in-fresh-root,in-next-debian,repeatable-packages}.sh; do
+for script in .ci/run scripts/{catalogues,fuzz,package,test,windows} tests/{key-on-windows,run-conversion}.sh \
+    checks/{catalogues,from-zip,hardened,in-fresh-root,in-next-debian,repeatable-packages}.sh; do
     ends_with 0 "$script" --help
     grep -q "^$script" "$work/output" || fail "$script --help does not tell how it is called"
     ends_with 64 "$script" --nonsense

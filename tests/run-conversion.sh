@@ -3,9 +3,11 @@
 # tests/run-conversion.sh [--accept] PROGRAM CASE: runs one whole conversion.
 #
 # CASE is a folder. Its `command`, lines of shell that call `xml2ryk`, the `operations` of
-# operations.cpp or the `survey` of survey.cpp, runs in a copy of the folder, with nothing on standard input. What comes of it must be, byte for byte, the folder `expected`:
-#   console.txt  standard output, decoded from cp866, with a line "[exit N]" behind each run of the
-#                program
+# operations.cpp, the `survey` of survey.cpp or xml2ryk-batch as `batch`, runs in a copy of the
+# folder, with nothing on standard input. What comes of it must be, byte for byte, the folder
+# `expected`:
+#   console.txt  standard output, decoded from cp866 (all of batch/ is UTF-8), with a line "[exit N]"
+#                behind each run of the program
 #   log.txt      standard error
 #   any other    a file that the command made or changed
 # --accept takes what comes as the expected folder, to be read before it is committed.
@@ -27,13 +29,16 @@ expect_arguments 2 2 "$@"
 program=("$(realpath "$1")") case=$(realpath "$2")
 operations=("$(dirname "$(realpath "$1")")/tests/operations")
 survey=("$(dirname "$(realpath "$1")")/tests/survey")
-platform=posix log_encoding=UTF-8 carriage_return=''
+platform=posix console_encoding=CP866 log_encoding=UTF-8 carriage_return=''
+batch=("$(dirname "$(realpath "$1")")/xml2ryk-batch")
 if [[ $1 == *.exe ]]; then
     platform=windows log_encoding=CP1251 carriage_return=$'\r'
     program=("$root/windows/run" "${program[@]}")
     operations=("$root/windows/run" "${operations[@]}.exe")
     survey=("$root/windows/run" "${survey[@]}.exe")
+    batch=("$root/windows/run" "${batch[@]}.exe")
 fi
+[[ $case != */batch/* ]] || console_encoding=UTF-8 log_encoding=UTF-8
 if ! grep -qsx "$platform" "$case/platform" && [ -e "$case/platform" ]; then
     echo "skipped: only for $(cat "$case/platform")"
     exit 77
@@ -54,10 +59,11 @@ run() {
 xml2ryk() { run "${program[@]}" "$@"; }
 operations() { run "${operations[@]}" "$@"; }
 survey() { run "${survey[@]}" "$@"; }
+batch() { run env LC_ALL=en_US.UTF-8 LANGUAGE="${language:-en}" "${batch[@]}" "$@"; }
 # shellcheck source=/dev/null
 (set +eu && . ./command) </dev/null >"$work/console" 2>"$work/log"
 to_text() { iconv -f "$1" -t UTF-8 | sed "s/$carriage_return\$//"; }
-to_text CP866 <"$work/console" >"$work/actual/console.txt"
+to_text "$console_encoding" <"$work/console" >"$work/actual/console.txt"
 to_text "$log_encoding" <"$work/log" >"$work/actual/log.txt"
 find . -type f -print0 | while IFS= read -r -d '' file; do
     cmp -s "$file" "$case/$file" || cp --parents "$file" "$work/actual"

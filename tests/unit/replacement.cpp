@@ -31,7 +31,7 @@ using Change = std::function<void(const QString &newFile)>;
 Q_DECLARE_METATYPE(delivery::Replacement::Hindrance)
 Q_DECLARE_METATYPE(Change)
 
-/// What needs other users, or kills processes, is in deliver.sh.
+/// What needs other users, or kills processes, is in batch.sh.
 class ReplacementTest : public QObject
 {
     Q_OBJECT

@@ -19,7 +19,7 @@ using namespace delivery;
 using namespace survey;
 using std::chrono::milliseconds;
 
-/// The workers are those of deliver.cpp.
+/// The workers are those of worker.cpp.
 class WorkersTest : public QObject
 {
     Q_OBJECT
@@ -33,7 +33,7 @@ class WorkersTest : public QObject
 
     /// What comes of checking sources whose names tell the workers what to do.
     static Run check(const QStringList &sources, int count = 1, milliseconds limit = {},
-                     const QString &program = DELIVER)
+                     const QString &program = WORKER)
     {
         Run run;
         run.endings.resize(sources.size());
@@ -199,7 +199,7 @@ private slots:
         QEventLoop loop;
         QTimer timer;
         connect(&timer, &QTimer::timeout, &loop, &QEventLoop::quit);
-        Workers workers({DELIVER, {workerArgument}, 2, {}});
+        Workers workers({WORKER, {workerArgument}, 2, {}});
         QStringList sources = {"a", "hang"};
         qint64 pid = 0;
         workers.next = [&]() -> std::optional<Order> {
@@ -227,15 +227,15 @@ private slots:
     }
 
 #ifdef Q_OS_WIN
-    /// What deliver.sh tries elsewhere: a batch is killed.
+    /// What batch.sh tries elsewhere: a batch is killed.
     void endWithTheirBatch()
     {
         QTemporaryDir folder;
         QFile source(folder.filePath("source"));
-        QVERIFY(source.open(QIODevice::WriteOnly) && source.write("hang ") == 5);
+        QVERIFY(source.open(QIODevice::WriteOnly));
         source.close();
         QProcess batch;
-        batch.start(DELIVER, {source.fileName(), folder.filePath("new")});
+        batch.start(WORKER, {source.fileName()});
         QVERIFY(batch.waitForStarted());
         batch.setReadChannel(QProcess::StandardError);
         QTRY_VERIFY(batch.canReadLine());

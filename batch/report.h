@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+//
+// Outcomes as people and programs read them.
+#pragma once
+
+#include "delivery/exchangefile.h"
+#include "delivery/outcome.h"
+
+#include <QJsonObject>
+#include <QStringList>
+
+namespace batch
+{
+
+using delivery::Outcome;
+
+/// What came of an exchange file.
+struct Verification {
+    QString path;
+    int exitCode = delivery::Complete;
+    delivery::ExchangeFile file;
+    QString source; ///< null: it is compared with none
+    survey::Counts wanted;
+    QString whyNot; ///< why there is nothing to compare it with; null otherwise
+};
+
+// For programs: the texts in it are in English.
+QJsonObject toJson(const Outcome &outcome);
+QJsonObject toJson(const Verification &verification);
+
+// For people, in the language that is spoken: a summary, and where there is more to tell, further
+// lines behind it.
+QStringList toLines(const Outcome &outcome);
+QStringList toLines(const Verification &verification);
+
+// What it is about.
+inline QString subjectOf(const Outcome &outcome)
+{
+    return outcome.source;
+}
+inline QString subjectOf(const Verification &verification)
+{
+    return verification.path;
+}
+
+} // namespace batch

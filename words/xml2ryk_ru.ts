@@ -1,0 +1,767 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ru_RU" sourcelanguage="en">
+<context>
+    <name>Words</name>
+    <message>
+        <source>it is empty</source>
+        <translation>он пуст</translation>
+    </message>
+    <message>
+        <source>it is an HTML page</source>
+        <translation>это страница HTML</translation>
+    </message>
+    <message>
+        <source>it is no XML at all</source>
+        <translation>это вообще не XML</translation>
+    </message>
+    <message>
+        <source>it ends in the middle</source>
+        <translation>он обрывается на середине</translation>
+    </message>
+    <message>
+        <source>an end tag is not that of the element it stands in</source>
+        <translation>закрывающий тег не от того элемента, в котором он стоит</translation>
+    </message>
+    <message>
+        <source>an &quot;&amp;&quot; with no entity behind it; the plain character is written &quot;&amp;amp;&quot;</source>
+        <translation>«&amp;», за которым нет сущности; сам знак пишется «&amp;amp;»</translation>
+    </message>
+    <message>
+        <source>a broken tag, or a &quot;&lt;&quot; that begins none; the plain character is written &quot;&amp;lt;&quot;</source>
+        <translation>испорченный тег или «&lt;», с которого тег не начинается; сам знак пишется «&amp;lt;»</translation>
+    </message>
+    <message>
+        <source>something that no element may hold, such as &quot;]]&gt;&quot;</source>
+        <translation>то, чего в элементе быть не может, например «]]&gt;»</translation>
+    </message>
+    <message>
+        <source>a comment with &quot;--&quot; in it</source>
+        <translation>комментарий, в котором стоит «--»</translation>
+    </message>
+    <message>
+        <source>an XML declaration that is not at the very beginning</source>
+        <translation>объявление XML стоит не в самом начале</translation>
+    </message>
+    <message>
+        <source>a character that may not stand there</source>
+        <translation>знак, которого здесь быть не может</translation>
+    </message>
+    <message>
+        <source>an entity that holds itself</source>
+        <translation>сущность, которая содержит саму себя</translation>
+    </message>
+    <message>
+        <source>an entity of another file in an attribute</source>
+        <translation>сущность из другого файла в атрибуте</translation>
+    </message>
+    <message>
+        <source>a broken document type declaration</source>
+        <translation>испорченное объявление типа документа</translation>
+    </message>
+    <message>
+        <source>a broken XML declaration</source>
+        <translation>испорченное объявление XML</translation>
+    </message>
+    <message>
+        <source>elements are nested too deep</source>
+        <translation>элементы вложены слишком глубоко</translation>
+    </message>
+    <message>
+        <source>an element has too many attributes</source>
+        <translation>у элемента слишком много атрибутов</translation>
+    </message>
+    <message>
+        <source>there are too many brackets ahead of the root</source>
+        <translation>перед корневым элементом слишком много скобок</translation>
+    </message>
+    <message>
+        <source>it declares too many entities, or too long ones</source>
+        <translation>в нём объявлено слишком много сущностей, или они слишком длинные</translation>
+    </message>
+    <message>
+        <source>it declares a parameter entity</source>
+        <translation>в нём объявлена параметрическая сущность</translation>
+    </message>
+    <message>
+        <source>its entities stand for too much text</source>
+        <translation>его сущности разворачиваются в слишком большой текст</translation>
+    </message>
+    <message>
+        <source>it takes more memory than there is</source>
+        <translation>на него не хватает памяти</translation>
+    </message>
+    <message>
+        <source>the source can&apos;t be read</source>
+        <translation>источник не читается</translation>
+    </message>
+    <message>
+        <source>the source is no well-formed XML: %1</source>
+        <translation>источник — неправильный XML: %1</translation>
+    </message>
+    <message>
+        <source>no encoding is declared, and the source is not in UTF-8</source>
+        <translation>кодировка не объявлена, а источник не в UTF-8</translation>
+    </message>
+    <message>
+        <source>the declared encoding is %1, but the source is in another one</source>
+        <translation>объявлена кодировка %1, но источник в другой</translation>
+    </message>
+    <message>
+        <source>the declared encoding is %1, but the source is in %2</source>
+        <translation>объявлена кодировка %1, но источник в %2</translation>
+    </message>
+    <message>
+        <source>the source goes beyond a limit: %1</source>
+        <translation>источник превышает ограничение: %1</translation>
+    </message>
+    <message>
+        <source>the source is an HTML page, no trade data</source>
+        <translation>источник — страница HTML, а не торговые данные</translation>
+    </message>
+    <message>
+        <source>the source is no trade data: its root is &quot;%1&quot;</source>
+        <translation>источник — не торговые данные: его корневой элемент — «%1»</translation>
+    </message>
+    <message>
+        <source>the order line &quot;%1&quot; has no identifier, and is left out</source>
+        <translation>у строки заказа «%1» нет идентификатора; строка пропущена</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no identifier, and is left out</source>
+        <translation>у «%1» нет идентификатора; пропущено</translation>
+    </message>
+    <message>
+        <source>the document has no lines, and the export ends at it</source>
+        <translation>у документа нет строк; на нём выгрузка кончается</translation>
+    </message>
+    <message numerus="yes">
+        <source>the document has no lines, and the export ends at it: %n document(s) behind it are lost</source>
+        <translation>
+            <numerusform>у документа нет строк; на нём выгрузка кончается, и за ним потерян %n документ</numerusform>
+            <numerusform>у документа нет строк; на нём выгрузка кончается, и за ним потеряны %n документа</numerusform>
+            <numerusform>у документа нет строк; на нём выгрузка кончается, и за ним потеряно %n документов</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>a group above the group &quot;%1&quot; is missing</source>
+        <translation>над группой «%1» недостаёт группы</translation>
+    </message>
+    <message>
+        <source>there is no group &quot;%1&quot;</source>
+        <translation>нет группы «%1»</translation>
+    </message>
+    <message>
+        <source>the free text</source>
+        <translation>свободный текст</translation>
+    </message>
+    <message>
+        <source>the value of &quot;%1&quot;</source>
+        <translation>значение «%1»</translation>
+    </message>
+    <message>
+        <source>%1 has a line break</source>
+        <translation>%1 — с переводом строки</translation>
+    </message>
+    <message>
+        <source>%1 has the line &quot;%2&quot;, which looks like one of the exchange file</source>
+        <translation>%1 — со строкой «%2», похожей на строку файла обмена</translation>
+    </message>
+    <message>
+        <source>%1 has broken or control characters</source>
+        <translation>%1 — с испорченными или управляющими знаками</translation>
+    </message>
+    <message>
+        <source>there is nothing in the source to export</source>
+        <translation>выгружать в источнике нечего</translation>
+    </message>
+    <message>
+        <source>the source changed while it was read</source>
+        <translation>источник изменился, пока его читали</translation>
+    </message>
+    <message>
+        <source>the document has no partner with a code, and is left out</source>
+        <translation>у документа нет контрагента с кодом; он пропущен</translation>
+    </message>
+    <message>
+        <source>the document has no number, and only its partner is exported</source>
+        <translation>у документа нет номера; выгружен только его контрагент</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has a prefix, and is not known by this name</source>
+        <translation>имя «%1» — с префиксом; под таким именем выгрузка его не знает</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; stands where no export looks for it, and is left out</source>
+        <translation>«%1» стоит там, где выгрузка его не ищет; пропущено</translation>
+    </message>
+    <message>
+        <source>the partner &quot;%1&quot; has another role than the wanted one</source>
+        <translation>у контрагента «%1» не та роль, которая нужна</translation>
+    </message>
+    <message>
+        <source>the groups above the group &quot;%1&quot; lead back to one of them</source>
+        <translation>группы над группой «%1» замыкаются в кольцо</translation>
+    </message>
+    <message>
+        <source>it is in no group</source>
+        <translation>нет группы</translation>
+    </message>
+    <message>
+        <source>it has no name</source>
+        <translation>нет наименования</translation>
+    </message>
+    <message>
+        <source>it has no price</source>
+        <translation>нет цены</translation>
+    </message>
+    <message>
+        <source>the price &quot;%1&quot; is no number</source>
+        <translation>цена «%1» — не число</translation>
+    </message>
+    <message>
+        <source>it has more prices than the exchange file holds</source>
+        <translation>цен больше, чем вмещает файл обмена</translation>
+    </message>
+    <message>
+        <source>another one in the same section has this code</source>
+        <translation>в том же разделе этот код уже был</translation>
+    </message>
+    <message>
+        <source>its code is empty</source>
+        <translation>код пустой</translation>
+    </message>
+    <message>
+        <source>it is sold out, and exported without unit and description</source>
+        <translation>товар распродан; выгружен без единицы и описания</translation>
+    </message>
+    <message>
+        <source>error</source>
+        <translation>ошибка</translation>
+    </message>
+    <message>
+        <source>loss</source>
+        <translation>потеря</translation>
+    </message>
+    <message>
+        <source>doubt</source>
+        <translation>сомнение</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n good(s)</source>
+        <translation>
+            <numerusform>%n товар</numerusform>
+            <numerusform>%n товара</numerusform>
+            <numerusform>%n товаров</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n offer(s)</source>
+        <translation>
+            <numerusform>%n предложение</numerusform>
+            <numerusform>%n предложения</numerusform>
+            <numerusform>%n предложений</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n document(s)</source>
+        <translation>
+            <numerusform>%n документ</numerusform>
+            <numerusform>%n документа</numerusform>
+            <numerusform>%n документов</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n order line(s)</source>
+        <translation>
+            <numerusform>%n строка заказа</numerusform>
+            <numerusform>%n строки заказов</numerusform>
+            <numerusform>%n строк заказов</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n partner(s) without an order</source>
+        <translation>
+            <numerusform>%n контрагент без заказа</numerusform>
+            <numerusform>%n контрагента без заказа</numerusform>
+            <numerusform>%n контрагентов без заказа</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>ничего</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n error(s)</source>
+        <translation>
+            <numerusform>%n ошибка</numerusform>
+            <numerusform>%n ошибки</numerusform>
+            <numerusform>%n ошибок</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n loss(es)</source>
+        <translation>
+            <numerusform>%n потеря</numerusform>
+            <numerusform>%n потери</numerusform>
+            <numerusform>%n потерь</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n doubt(s)</source>
+        <translation>
+            <numerusform>%n сомнение</numerusform>
+            <numerusform>%n сомнения</numerusform>
+            <numerusform>%n сомнений</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>there is no folder for the exchange file</source>
+        <translation>нет папки для файла обмена</translation>
+    </message>
+    <message>
+        <source>the destination is no ordinary file</source>
+        <translation>приёмник — не обычный файл</translation>
+    </message>
+    <message>
+        <source>the destination is the source itself</source>
+        <translation>приёмник — сам источник</translation>
+    </message>
+    <message>
+        <source>there is no right to write the old exchange file</source>
+        <translation>нет прав на запись прежнего файла обмена</translation>
+    </message>
+    <message>
+        <source>the old exchange file has other names, hard links, which would keep the old content</source>
+        <translation>у прежнего файла обмена есть другие имена, жёсткие ссылки, под которыми осталось бы прежнее содержимое</translation>
+    </message>
+    <message>
+        <source>the new exchange file can&apos;t get the owner, the group and the rights of the old one</source>
+        <translation>новому файлу обмена не удаётся дать владельца, группу и права прежнего</translation>
+    </message>
+    <message>
+        <source>another run is writing this exchange file</source>
+        <translation>этот файл обмена записывает другой запуск</translation>
+    </message>
+    <message>
+        <source>no new file can be created beside the destination</source>
+        <translation>рядом с приёмником не удаётся создать новый файл</translation>
+    </message>
+    <message>
+        <source>the new exchange file is not what was written into it</source>
+        <translation>в новом файле обмена не то, что в него записано</translation>
+    </message>
+    <message>
+        <source>the new exchange file may not have reached the disk</source>
+        <translation>новый файл обмена, возможно, не попал на диск</translation>
+    </message>
+    <message>
+        <source>the old exchange files can&apos;t be kept with numbers</source>
+        <translation>прежние файлы обмена не удаётся сохранить с номерами</translation>
+    </message>
+    <message>
+        <source>the new exchange file can&apos;t take the place of the old one</source>
+        <translation>новый файл обмена не удаётся поставить на место прежнего</translation>
+    </message>
+    <message>
+        <source>the time that a source may take is over</source>
+        <translation>вышло время, отведённое на источник</translation>
+    </message>
+    <message>
+        <source>the process that read the source died</source>
+        <translation>процесс, который читал источник, аварийно завершился</translation>
+    </message>
+    <message>
+        <source>no process could be started to read the source</source>
+        <translation>не удалось запустить процесс для чтения источника</translation>
+    </message>
+    <message>
+        <source>memory ran out</source>
+        <translation>кончилась память</translation>
+    </message>
+    <message>
+        <source>there is no such file or folder</source>
+        <translation>такого файла или папки нет</translation>
+    </message>
+    <message>
+        <source>there is no right to do so</source>
+        <translation>на это нет прав</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>это папка</translation>
+    </message>
+    <message>
+        <source>a part of the path is no folder</source>
+        <translation>часть пути — не папка</translation>
+    </message>
+    <message>
+        <source>the disk is full</source>
+        <translation>диск заполнен</translation>
+    </message>
+    <message>
+        <source>the disk space of this user is used up</source>
+        <translation>место на диске, отведённое пользователю, кончилось</translation>
+    </message>
+    <message>
+        <source>a file may not become so large</source>
+        <translation>файлу нельзя стать таким большим</translation>
+    </message>
+    <message>
+        <source>the disk is write-protected</source>
+        <translation>диск защищён от записи</translation>
+    </message>
+    <message>
+        <source>the disk reports an error</source>
+        <translation>диск сообщает об ошибке</translation>
+    </message>
+    <message>
+        <source>another program has it open</source>
+        <translation>он открыт в другой программе</translation>
+    </message>
+    <message>
+        <source>too many files are open</source>
+        <translation>открыто слишком много файлов</translation>
+    </message>
+    <message>
+        <source>all of every source gets across; an exchange file is whole, as far as it shows</source>
+        <translation>из всех источников переходит всё; по файлу обмена не видно, что он оборван</translation>
+    </message>
+    <message>
+        <source>wrong usage; nothing was done</source>
+        <translation>вызов неверен; ничего не сделано</translation>
+    </message>
+    <message>
+        <source>a file can&apos;t be read, or there is nothing to export; the old exchange file is kept</source>
+        <translation>файл не читается, или выгружать нечего; прежний файл обмена оставлен</translation>
+    </message>
+    <message>
+        <source>something is left out; an exchange file is not whole</source>
+        <translation>что-то не перешло; файл обмена не цел</translation>
+    </message>
+    <message>
+        <source>an exchange file could not be written whole, or was held back; the old one is kept</source>
+        <translation>файл обмена не удалось записать целиком, или он задержан; прежний оставлен</translation>
+    </message>
+    <message>
+        <source>Ctrl-C or SIGTERM ended the run</source>
+        <translation>работу оборвал Ctrl-C или SIGTERM</translation>
+    </message>
+    <message>
+        <source>a folder of sources needs --into and a folder</source>
+        <translation>для папки с источниками нужен --into с папкой</translation>
+    </message>
+    <message>
+        <source>two sources have the destination %1</source>
+        <translation>у двух источников один приёмник %1</translation>
+    </message>
+    <message>
+        <source>the log %1 is one of the other files</source>
+        <translation>журнал %1 — один из остальных файлов</translation>
+    </message>
+    <message>
+        <source>the log %1 can&apos;t be written</source>
+        <translation>журнал %1 не удаётся вести</translation>
+    </message>
+    <message>
+        <source>the argument &quot;%1&quot; is no UTF-8</source>
+        <translation>аргумент «%1» не в UTF-8</translation>
+    </message>
+    <message>
+        <source>SOURCE...</source>
+        <translation>ИСТОЧНИК...</translation>
+    </message>
+    <message>
+        <source>tells what a conversion would leave out, and writes nothing</source>
+        <translation>говорит, что пропало бы при преобразовании; ничего не записывает</translation>
+    </message>
+    <message>
+        <source>SOURCE DESTINATION</source>
+        <translation>ИСТОЧНИК ПРИЁМНИК</translation>
+    </message>
+    <message>
+        <source>--into FOLDER SOURCE...</source>
+        <translation>--into ПАПКА ИСТОЧНИК...</translation>
+    </message>
+    <message>
+        <source>puts a whole exchange file in the place of the old one, or leaves that as it is</source>
+        <translation>ставит на место прежнего файла обмена целый новый или оставляет прежний</translation>
+    </message>
+    <message>
+        <source>EXCHANGE-FILE...</source>
+        <translation>ФАЙЛ-ОБМЕНА...</translation>
+    </message>
+    <message>
+        <source>tells whether an exchange file is whole</source>
+        <translation>говорит, цел ли файл обмена</translation>
+    </message>
+    <message>
+        <source>the documents are purchases, as in xml2ryk</source>
+        <translation>документы — закупки, как в xml2ryk</translation>
+    </message>
+    <message>
+        <source>one object a line for each source</source>
+        <translation>по объекту JSON в строке на каждый источник</translation>
+    </message>
+    <message>
+        <source>every finding, not the first ten of a kind</source>
+        <translation>все находки, а не первые десять каждого вида</translation>
+    </message>
+    <message>
+        <source>N</source>
+        <translation>N</translation>
+    </message>
+    <message>
+        <source>sources at the same time; the number of cores if absent</source>
+        <translation>сколько источников читать сразу; если нет — по числу ядер</translation>
+    </message>
+    <message>
+        <source>SECONDS</source>
+        <translation>СЕКУНДЫ</translation>
+    </message>
+    <message>
+        <source>how long a source may take</source>
+        <translation>сколько времени отводится на источник</translation>
+    </message>
+    <message>
+        <source>a source of trade data with nothing in it is fine</source>
+        <translation>источник, в котором ничего нет, — не ошибка</translation>
+    </message>
+    <message>
+        <source>KIND</source>
+        <translation>ВИД</translation>
+    </message>
+    <message>
+        <source>this kind of loss counts as a doubt; repeatable</source>
+        <translation>потери этого вида считать сомнениями; можно повторять</translation>
+    </message>
+    <message>
+        <source>FOLDER</source>
+        <translation>ПАПКА</translation>
+    </message>
+    <message>
+        <source>where exchange files go, named like their sources with .txt</source>
+        <translation>куда записывать файлы обмена; имена — как у источников, с .txt</translation>
+    </message>
+    <message>
+        <source>how long to wait for another run&apos;s destination; 0 if absent</source>
+        <translation>сколько ждать приёмник, занятый другим запуском; если нет — 0</translation>
+    </message>
+    <message>
+        <source>a loss keeps the old file</source>
+        <translation>при потерях оставлять прежний файл</translation>
+    </message>
+    <message>
+        <source>PERCENT</source>
+        <translation>ПРОЦЕНТ</translation>
+    </message>
+    <message>
+        <source>keeps the old file where goods or documents fell by more than this against it</source>
+        <translation>оставлять прежний файл, если товаров или документов стало меньше, чем в нём, более чем на столько</translation>
+    </message>
+    <message>
+        <source>the last N old files stay beside the new one, with numbers</source>
+        <translation>N последних прежних файлов остаются рядом, с номерами</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation>ФАЙЛ</translation>
+    </message>
+    <message>
+        <source>the counts are compared with this source</source>
+        <translation>сравнить число блоков с этим источником</translation>
+    </message>
+    <message>
+        <source>gets a line for each source behind those it has</source>
+        <translation>дописывать сюда по строке на каждый источник</translation>
+    </message>
+    <message>
+        <source>prints this, and does nothing else</source>
+        <translation>вывести эту справку и больше ничего не делать</translation>
+    </message>
+    <message>
+        <source>prints the version, and does nothing else</source>
+        <translation>вывести версию и больше ничего не делать</translation>
+    </message>
+    <message>
+        <source>a command is missing</source>
+        <translation>не указана команда</translation>
+    </message>
+    <message>
+        <source>there is no command %1</source>
+        <translation>нет команды %1</translation>
+    </message>
+    <message>
+        <source>there is no option %1</source>
+        <translation>нет параметра %1</translation>
+    </message>
+    <message>
+        <source>the option %1 stands behind a command</source>
+        <translation>параметр %1 пишется после команды</translation>
+    </message>
+    <message>
+        <source>%1 has no option %2</source>
+        <translation>у %1 нет параметра %2</translation>
+    </message>
+    <message>
+        <source>the option %1 has no value</source>
+        <translation>у параметра %1 нет значения</translation>
+    </message>
+    <message>
+        <source>the option %1 lacks its value</source>
+        <translation>после параметра %1 нужно значение</translation>
+    </message>
+    <message>
+        <source>the option %1 can&apos;t be &quot;%2&quot;</source>
+        <translation>параметр %1 не может быть «%2»</translation>
+    </message>
+    <message>
+        <source>the name of a file is empty</source>
+        <translation>имя файла пустое</translation>
+    </message>
+    <message>
+        <source>the name of a file is missing</source>
+        <translation>не указано имя файла</translation>
+    </message>
+    <message>
+        <source>the destination is missing</source>
+        <translation>не указан приёмник</translation>
+    </message>
+    <message>
+        <source>several sources need --into and a folder</source>
+        <translation>для нескольких источников нужен --into с папкой</translation>
+    </message>
+    <message>
+        <source>--source is for one exchange file</source>
+        <translation>--source годится для одного файла обмена</translation>
+    </message>
+    <message>
+        <source>OPTIONS</source>
+        <translation>ПАРАМЕТРЫ</translation>
+    </message>
+    <message>
+        <source>Usage:</source>
+        <translation>Вызов:</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Параметры:</translation>
+    </message>
+    <message>
+        <source>&quot;%1 --help&quot; tells more</source>
+        <translation>подробнее: «%1 --help»</translation>
+    </message>
+    <message>
+        <source>Exit codes, of several the gravest, which is 4, then 2, then 3:</source>
+        <translation>Коды завершения; из нескольких — самый тяжёлый: 4, затем 2, затем 3:</translation>
+    </message>
+    <message>
+        <source>standard output can&apos;t be written</source>
+        <translation>стандартный вывод не записывается</translation>
+    </message>
+    <message>
+        <source>ERROR</source>
+        <translation>ОШИБКА</translation>
+    </message>
+    <message>
+        <source>LOSS</source>
+        <translation>ПОТЕРИ</translation>
+    </message>
+    <message>
+        <source>NOT WRITTEN</source>
+        <translation>НЕ ЗАПИСАНО</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>(here the start tag ends)</source>
+        <translation>(здесь кончается открывающий тег)</translation>
+    </message>
+    <message>
+        <source>this is no exchange file: its first line is another one</source>
+        <translation>это не файл обмена: первая строка у него другая</translation>
+    </message>
+    <message>
+        <source>the file ends in the middle of this line</source>
+        <translation>файл обрывается посреди этой строки</translation>
+    </message>
+    <message>
+        <source>the file ends inside the block that begins here</source>
+        <translation>файл обрывается внутри блока, который начинается здесь</translation>
+    </message>
+    <message>
+        <source>the file ends inside the order that begins here</source>
+        <translation>файл обрывается внутри заказа, который начинается здесь</translation>
+    </message>
+    <message>
+        <source>this line is in no block, or its block may not stand here</source>
+        <translation>эта строка вне блоков, или её блоку здесь не место</translation>
+    </message>
+    <message>
+        <source>this line has bytes that nobody writes into an exchange file</source>
+        <translation>в этой строке байты, которых в файле обмена не бывает</translation>
+    </message>
+    <message>
+        <source>the same as before</source>
+        <translation>прежнее содержимое</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more, which --all shows</source>
+        <translation>
+            <numerusform>ещё %n, см. --all</numerusform>
+            <numerusform>ещё %n, см. --all</numerusform>
+            <numerusform>ещё %n, см. --all</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>NOT WHOLE</source>
+        <translation>НЕ ЦЕЛ</translation>
+    </message>
+    <message>
+        <source>the file can&apos;t be read</source>
+        <translation>файл не читается</translation>
+    </message>
+    <message>
+        <source>of the source it should have %1</source>
+        <translation>из источника в нём должно быть: %1</translation>
+    </message>
+    <message>
+        <source>the exchange file could not be written whole</source>
+        <translation>файл обмена не удалось записать целиком</translation>
+    </message>
+    <message>
+        <source>the old file is kept, since something would be left out</source>
+        <translation>прежний файл оставлен: в новый попало бы не всё</translation>
+    </message>
+    <message numerus="yes">
+        <source>the old file is kept: it has %n good(s), the new one would have %1</source>
+        <translation>
+            <numerusform>прежний файл оставлен: в нём %n товар, в новом было бы %1</numerusform>
+            <numerusform>прежний файл оставлен: в нём %n товара, в новом было бы %1</numerusform>
+            <numerusform>прежний файл оставлен: в нём %n товаров, в новом было бы %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>the old file is kept: it has %n document(s), the new one would have %1</source>
+        <translation>
+            <numerusform>прежний файл оставлен: в нём %n документ, в новом было бы %1</numerusform>
+            <numerusform>прежний файл оставлен: в нём %n документа, в новом было бы %1</numerusform>
+            <numerusform>прежний файл оставлен: в нём %n документов, в новом было бы %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>the folder has no *.xml</source>
+        <translation>в папке нет *.xml</translation>
+    </message>
+    <message>
+        <source>the name of the file is no text</source>
+        <translation>имя файла — не текст</translation>
+    </message>
+    <message>
+        <source>it is no ordinary file</source>
+        <translation>это не обычный файл</translation>
+    </message>
+</context>
+</TS>
