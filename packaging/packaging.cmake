@@ -1,6 +1,9 @@
 # What `cmake --install` copies. scripts/package makes a zip of it for Windows, and a Debian package
 # elsewhere, with cpack. What that package leaves out, or alone takes, is in a component of its own.
 install(TARGETS xml2ryk)
+if(TARGET xml2ryk-batch)
+    install(TARGETS xml2ryk-batch)
+endif()
 install(DIRECTORY examples TYPE DOC)
 
 find_program(PANDOC pandoc)
@@ -31,6 +34,13 @@ if(WIN32)
         set(made ${made} ${pages}/${name} PARENT_SCOPE)
     endfunction()
     text(${PROJECT_SOURCE_DIR}/LICENSE LICENSE.txt)
+    text(${PROJECT_SOURCE_DIR}/packaging/convert.cmd convert.cmd)
+    # In the encoding that the Task Scheduler exports.
+    set(task ${PROJECT_SOURCE_DIR}/packaging/nightly-task.xml)
+    add_custom_command(OUTPUT ${pages}/nightly-task.xml
+        COMMAND sed "s/$/\\r/" ${task} | iconv -f UTF-8 -t UTF-16 > ${pages}/nightly-task.xml
+        DEPENDS ${task} VERBATIM)
+    list(APPEND made ${pages}/nightly-task.xml)
     # A static program contains the toolkit and the run time of the compiler.
     file(GLOB licences ${CMAKE_PREFIX_PATH}/licences/*)
     foreach(licence IN LISTS licences)
@@ -48,9 +58,15 @@ endif()
 file(GLOB documents CONFIGURE_DEPENDS README*.md SECURITY*.md)
 install(FILES ${documents} TYPE DOC)
 install(FILES CHANGELOG.md LICENSE TYPE DOC COMPONENT plain)
-install(DIRECTORY docs TYPE DOC PATTERN xml2ryk.* EXCLUDE)
-install(FILES packaging/completion.bash
-    DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME xml2ryk)
+install(DIRECTORY docs TYPE DOC PATTERN xml2ryk* EXCLUDE)
+# Not where the system would find them: user, folders and time are for whoever copies them there.
+install(DIRECTORY packaging/systemd DESTINATION ${CMAKE_INSTALL_DOCDIR}/examples)
+foreach(program IN ITEMS xml2ryk xml2ryk-batch)
+    install(FILES packaging/${program}.bash
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME ${program})
+endforeach()
+install(FILES packaging/completion.zsh
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/vendor-completions RENAME _xml2ryk)
 
 # compress(SOURCE NAME): a target that makes NAME.gz of the build folder.
 function(compress source name)
@@ -63,14 +79,16 @@ string(TIMESTAMP today "%Y-%m-%d" UTC)
 string(TIMESTAMP now "%a, %d %b %Y %H:%M:%S +0000" UTC)
 
 if(PANDOC)
-    configure_file(docs/xml2ryk.1.md xml2ryk.1.md @ONLY)
-    add_custom_command(OUTPUT xml2ryk.1
-        COMMAND ${PANDOC} --standalone --to man --output xml2ryk.1 xml2ryk.1.md
-        DEPENDS xml2ryk.1.md)
-    compress(xml2ryk.1 manual)
-    # Who builds only the program has no manual page to install.
-    install(FILES ${CMAKE_CURRENT_BINARY_DIR}/manual.gz
-        DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 RENAME xml2ryk.1.gz OPTIONAL)
+    foreach(program IN ITEMS xml2ryk xml2ryk-batch)
+        configure_file(docs/${program}.1.md ${program}.1.md @ONLY)
+        add_custom_command(OUTPUT ${program}.1
+            COMMAND ${PANDOC} --standalone --to man --output ${program}.1 ${program}.1.md
+            DEPENDS ${program}.1.md)
+        compress(${program}.1 ${program}-manual)
+        # Who builds only the program has no manual page to install.
+        install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${program}-manual.gz
+            DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 RENAME ${program}.1.gz OPTIONAL)
+    endforeach()
 endif()
 
 set(CPACK_PACKAGE_VENDOR "the xml2ryk authors")
