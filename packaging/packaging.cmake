@@ -1,9 +1,6 @@
 # What `cmake --install` copies. scripts/package makes a zip of it for Windows, and a Debian package
 # elsewhere, with cpack. What that package leaves out, or alone takes, is in a component of its own.
-install(TARGETS xml2ryk)
-if(TARGET xml2ryk-batch)
-    install(TARGETS xml2ryk-batch)
-endif()
+install(TARGETS xml2ryk xml2ryk-batch)
 install(DIRECTORY examples TYPE DOC)
 
 find_program(PANDOC pandoc)
