@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 #
-# checks/hardened.sh FILE...: whether each program, or the program in each package, is hardened.
+# checks/hardened.sh FILE...: whether each program, or each of the programs in a package, is hardened.
 set -euo pipefail
 # shellcheck source-path=SCRIPTDIR source=../scripts/setup.sh
 . "$(dirname "$(readlink -f "$0")")/../scripts/setup.sh"
@@ -41,11 +41,15 @@ for file in "$@"; do
     case $file in
         *.deb)
             dpkg-deb -x "$file" "$work"
-            check_linux "$work/usr/bin/xml2ryk"
+            for program in "$work"/usr/bin/*; do
+                check_linux "$program"
+            done
             ;;
         *.zip)
             unzip -q "$file" -d "$work"
-            check_windows "$work/xml2ryk/xml2ryk.exe"
+            for program in "$work"/xml2ryk/*.exe; do
+                check_windows "$program"
+            done
             ;;
         *.exe) check_windows "$file" ;;
         *) check_linux "$file" ;;

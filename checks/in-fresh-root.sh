@@ -17,7 +17,10 @@ example=/usr/share/doc/xml2ryk/examples/orders-windows-1251.xml
 within xml2ryk "$example" заказы.txt </dev/null >&2
 "$program" "$fresh$example" "$fresh/expected.txt" </dev/null >/dev/null 2>&1
 cmp "$fresh/заказы.txt" "$fresh/expected.txt"
-gzip --test "$fresh/usr/share/man/man1/xml2ryk.1.gz"
+rm "$fresh/заказы.txt"
+within xml2ryk-batch convert "$example" заказы.txt >&2
+cmp "$fresh/заказы.txt" "$fresh/expected.txt"
+gzip --test "$fresh"/usr/share/man/man1/xml2ryk{,-batch}.1.gz
 # shellcheck disable=SC2016
 within bash -c '. /usr/share/bash-completion/completions/xml2ryk
     compopt() { :; }

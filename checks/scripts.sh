@@ -46,7 +46,8 @@ ends_with() {
 find . >"$work/before"
 touch occupied
 for script in .ci/run scripts/{catalogues,fuzz,package,test,windows} tests/{key-on-windows,run-conversion}.sh \
-    checks/{catalogues,from-zip,hardened,in-fresh-root,in-next-debian,repeatable-packages}.sh; do
+    checks/{catalogues,from-zip,hardened,in-fresh-root,in-next-debian,many-files,options,repeatable-packages}.sh \
+    checks/units.sh; do
     ends_with 0 "$script" --help
     grep -q "^$script" "$work/output" || fail "$script --help does not tell how it is called"
     ends_with 64 "$script" --nonsense
