@@ -2,8 +2,9 @@
 #
 # checks/from-zip.sh ZIP: under wine, what README.md tells a newcomer to do on Windows, word for word:
 # unpacks the zip, also over itself, and runs the commands, which must give what build/xml2ryk gives.
-# Then once more in a folder with blanks and Cyrillic letters. The texts in the zip must be for Windows,
-# and each of their links must lead somewhere.
+# Then once more in a folder with blanks and Cyrillic letters. It drops files on convert.cmd, runs what the
+# task for the night runs, and the commands of docs/many-files.md. The texts in the zip must be for
+# Windows, and each of their links must lead somewhere.
 set -euo pipefail
 # shellcheck source-path=SCRIPTDIR source=../scripts/setup.sh
 . "$(dirname "$(readlink -f "$0")")/../scripts/setup.sh"
@@ -30,10 +31,13 @@ ln -s "$kept/wine/drive_c/windows" "$drive/windows"
 ln -s ../drive_c "$work/wine/dosdevices/c:"
 cp "$kept"/wine/{*.reg,.update-timestamp} "$work/wine"
 
-# The blocks of commands of the chapter, as files that cmd reads; notepad would need a screen.
-sed -n '/^### On Windows/,/^### On Debian/p' "$root/README.md" | sed '/^ *notepad /d' |
-    awk -v name="$work/block" '/^ *```bat$/ { to = name (++count) ".bat"; next } /^ *```$/ { to = "" }
+# make_blocks NAME: the blocks of commands in what it reads, as files that cmd reads.
+make_blocks() {
+    awk -v name="$work/$1" '/^ *```bat$/ { to = name (++count) ".bat"; next } /^ *```$/ { to = "" }
         to { sub(/^   /, ""); print $0 "\r" >to }'
+}
+# Notepad would need a screen.
+sed -n '/^### On Windows/,/^### On Debian/p' "$root/README.md" | sed '/^ *notepad /d' | make_blocks block
 [ "$(cd "$work" && echo block*.bat)" = "block1.bat block2.bat" ] ||
     fail "README.md has other commands for Windows than a first conversion and a batch file"
 
@@ -64,15 +68,66 @@ try_in "/Мои программы"
 folder=$drive/Мой\ обмен
 mkdir "$folder"
 cp "$orders" "$folder/orders.xml"
-cp "$work/block2.bat" "$folder/convert.bat"
-run 'C:\Мой обмен\convert.bat'
+cp "$work/block2.bat" "$folder/nightly.bat"
+run 'C:\Мой обмен\nightly.bat'
 grep -q '^Exit code: 0' <<<"$answer" || fail "the batch file answers: $answer"
 cmp "$work/expected.txt" "$folder/orders.txt"
+
+say "dropping files on convert.cmd"
+# drop FILE...: as Explorer does, which puts names with blanks alone in quotation marks. The cmd of wine
+# does not know CMDCMDLINE, where that of Windows has the command line that it was started with.
+drop() {
+    local file line='C:\windows\system32\cmd.exe /c ""C:\Мои программы\xml2ryk\convert.cmd"'
+    for file in "$@"; do
+        [[ $file != *" "* ]] || file="\"$file\""
+        line+=" $file"
+    done
+    code=0
+    answer=$(CMDCMDLINE="$line\"" "$root/windows/run" cmd /c 'C:\Мои программы\xml2ryk\convert.cmd' x \
+        </dev/null 2>&1 | iconv -c -f CP1251) || code=$?
+    grep -q 'Нажмите любую клавишу' <<<"$answer" || fail "convert.cmd waits for no key: $answer"
+}
+mkdir "$drive/R&D" "$folder/Июль (2)"
+cp "$orders" "$folder/a&b !1!.xml"
+cp "$orders" "$drive/R&D/заказы;^,=1!.XML"
+cp "$orders" "$folder/Июль (2)/orders.xml"
+echo '<a>' >"$drive/R&D/broken.xml"
+echo old >"$drive/R&D/broken.txt"
+drop 'C:\Мой обмен\a&b !1!.xml' 'C:\R&D\broken.xml' 'C:\R&D\заказы;^,=1!.XML' 'C:\Мой обмен\Июль (2)'
+[ "$code $(grep -c '^Everything is' <<<"$answer") $(grep -c '^Not converted' <<<"$answer")" = "2 3 1" ] ||
+    fail "convert.cmd ends with $code and says: $answer"
+for converted in "$folder/a&b !1!.txt" "$drive/R&D/заказы;^,=1!.txt" "$folder/Июль (2)/orders.txt"; do
+    cmp "$work/expected.txt" "$converted"
+done
+grep -qx old "$drive/R&D/broken.txt" || fail "a broken source has an exchange file"
+rm "$drive/Мои программы/xml2ryk/xml2ryk-batch.exe"
+drop 'C:\Мой обмен\orders.xml'
+grep -q '^xml2ryk-batch.exe is not beside' <<<"$answer" || fail "convert.cmd does not miss its program: $answer"
+
+say "trying what runs every night"
+task=$drive/xml2ryk/nightly-task.xml
+[ "$(head -c 2 "$task" | od -An -tx1)" = " ff fe" ] || fail "the task is not in UTF-16"
+# of_task NAME: the text of that element.
+of_task() { xmllint --xpath "string(//*[local-name() = '$1'])" "$task"; }
+make_blocks nightly <"$root/docs/many-files.md"
+[ "$(cd "$work" && echo nightly*.bat)" = "nightly1.bat nightly2.bat" ] ||
+    fail "docs/many-files.md has other commands for Windows than those for the task and its outcome"
+mkdir -p "$drive"/exchange/{in,out}
+cp "$orders" "$drive/exchange/in/orders.xml"
+printf '%s %s\r\n' "$(of_task Command)" "$(of_task Arguments)" >"$drive/steps.bat"
+run 'C:\steps.bat'
+cmp "$work/expected.txt" "$drive/exchange/out/orders.txt"
+grep -q orders.xml "$drive/exchange/log.txt" || fail "the task writes no log"
+sed -n '1s/ \/ru.*//p' "$work/nightly1.bat" >"$drive/steps.bat" # wine has no users
+run 'C:\steps.bat'
+cp "$work/nightly2.bat" "$drive/steps.bat"
+run 'C:\steps.bat'
+grep -q '^Everything is in the exchange files' <<<"$answer" || fail "the outcome in cmd: $answer"
 
 say "checking the texts of the zip"
 cd "$drive/xml2ryk"
 rm orders.txt
-find . -name '*.html' -o -name '*.txt' | while IFS= read -r text; do
+find . -name '*.html' -o -name '*.txt' -o -name '*.cmd' | while IFS= read -r text; do
     ! grep -qv $'\r$' "$text" || fail "$text: not the line ends of Windows"
 done
 find . -name '*.html' | while IFS= read -r page; do

@@ -50,7 +50,7 @@ shift /1
 :convert
 set "name=%file%"
 if "%file:~-4,1%"=="." set "name=%file:~0,-4%"
-if exist "%file%\" (
+if exist "%file%\*" (
     "%program%" convert --into "%file%" "%file%"
 ) else (
     "%program%" convert "%file%" "%name%.txt"
