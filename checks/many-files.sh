@@ -42,7 +42,7 @@ run() {
 }
 
 run $'xml2ryk-batch convert --into out in\n' # two blocks: the folder, and the outcome in sh
-grep -qF 'ERROR out/broken.txt' <<<"$said" || fail "the broken source is not told: $said"
+grep -qF 'ERROR in/broken.xml: ' <<<"$said" || fail "the broken source is not told: $said"
 grep -qF 'at least one exchange file is not new' error || fail "sh does not tell the outcome: $said"
 for source in in/*.xml; do
     file=out/$(basename "$source" .xml).txt
