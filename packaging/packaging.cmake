@@ -110,7 +110,8 @@ or set of documents, or a YML shop feed, in any encoding. Goods come with
 the full path of their group, documents with their partner and lines.
 .
 It is made for scripts: one call for one file, no configuration, no state,
-no network.")
+no network. A second program, xml2ryk-batch, converts many files in nightly
+runs, and tells whether everything got across.")
 
 configure_file(packaging/debian-changelog.in debian-changelog @ONLY)
 compress(${CMAKE_CURRENT_BINARY_DIR}/debian-changelog changelog-debian)
