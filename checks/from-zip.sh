@@ -2,8 +2,8 @@
 #
 # checks/from-zip.sh ZIP: under wine, what README.md tells a newcomer to do on Windows, word for word:
 # unpacks the zip, also over itself, and runs the commands, which must give what build/xml2ryk gives.
-# Then once more in a folder with blanks and Cyrillic letters. It drops files on convert.cmd, runs what the
-# task for the night runs, and the commands of docs/many-files.md. The texts in the zip must be for
+# Then once more in a folder with blanks and Cyrillic letters. It drops files on convert.cmd, runs what
+# Windows is to run in the night, and the commands of docs/many-files.md. The texts in the zip must be for
 # Windows, and each of their links must lead somewhere.
 set -euo pipefail
 # shellcheck source-path=SCRIPTDIR source=../scripts/setup.sh
@@ -105,20 +105,20 @@ drop 'C:\Мой обмен\orders.xml'
 grep -q '^xml2ryk-batch.exe is not beside' <<<"$answer" || fail "convert.cmd does not miss its program: $answer"
 
 say "trying what runs every night"
-task=$drive/xml2ryk/nightly-task.xml
-[ "$(head -c 2 "$task" | od -An -tx1)" = " ff fe" ] || fail "the task is not in UTF-16"
-# of_task NAME: the text of that element.
-of_task() { xmllint --xpath "string(//*[local-name() = '$1'])" "$task"; }
+schedule=$drive/xml2ryk/nightly.xml
+[ "$(head -c 2 "$schedule" | od -An -tx1)" = " ff fe" ] || fail "the schedule is not in UTF-16"
+# scheduled NAME: the text of that element.
+scheduled() { xmllint --xpath "string(//*[local-name() = '$1'])" "$schedule"; }
 make_blocks nightly <"$root/docs/many-files.md"
 [ "$(cd "$work" && echo nightly*.bat)" = "nightly1.bat nightly2.bat" ] ||
-    fail "docs/many-files.md has other commands for Windows than those for the task and its outcome"
+    fail "docs/many-files.md has other commands for Windows than those for the schedule and the outcome"
 mkdir -p "$drive"/exchange/{in,out}
 cp "$orders" "$drive/exchange/in/orders.xml"
-printf '%s %s\r\n' "$(of_task Command)" "$(of_task Arguments)" >"$drive/steps.bat"
+printf '%s %s\r\n' "$(scheduled Command)" "$(scheduled Arguments)" >"$drive/steps.bat"
 run 'C:\steps.bat'
 cmp "$work/expected.txt" "$drive/exchange/out/orders.txt"
-grep -q orders.xml "$drive/exchange/log.txt" || fail "the task writes no log"
-# Wine has no users, and keeps the task in the system, which is not this Windows' own.
+grep -q orders.xml "$drive/exchange/log.txt" || fail "what is scheduled writes no log"
+# Wine has no users, and keeps the schedule in the system, which is not this Windows' own.
 sed -n '1s/ \/ru.*/ \/f\r/p' "$work/nightly1.bat" >"$drive/steps.bat"
 run 'C:\steps.bat'
 printf 'schtasks /delete /tn xml2ryk /f\r\n' >"$drive/steps.bat"

@@ -33,11 +33,11 @@ if(WIN32)
     text(${PROJECT_SOURCE_DIR}/LICENSE LICENSE.txt)
     text(${PROJECT_SOURCE_DIR}/packaging/convert.cmd convert.cmd)
     # In the encoding that the Task Scheduler exports.
-    set(task ${PROJECT_SOURCE_DIR}/packaging/nightly-task.xml)
-    add_custom_command(OUTPUT ${pages}/nightly-task.xml
-        COMMAND sed "s/$/\\r/" ${task} | iconv -f UTF-8 -t UTF-16 > ${pages}/nightly-task.xml
-        DEPENDS ${task} VERBATIM)
-    list(APPEND made ${pages}/nightly-task.xml)
+    set(schedule ${PROJECT_SOURCE_DIR}/packaging/nightly.xml)
+    add_custom_command(OUTPUT ${pages}/nightly.xml
+        COMMAND sed "s/$/\\r/" ${schedule} | iconv -f UTF-8 -t UTF-16 > ${pages}/nightly.xml
+        DEPENDS ${schedule} VERBATIM)
+    list(APPEND made ${pages}/nightly.xml)
     # A static program contains the toolkit and the run time of the compiler.
     file(GLOB licences ${CMAKE_PREFIX_PATH}/licences/*)
     foreach(licence IN LISTS licences)
