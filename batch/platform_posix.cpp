@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "batch/platform.h"
 
+#include "delivery/platform.h"
+
 #include <QFile>
 #include <QTextCodec>
 
@@ -83,7 +85,7 @@ bool listFolder(const QString &folder, QVector<FolderEntry> &entries, QString &m
     }
     if (errno == 0)
         return true;
-    message = qt_error_string(errno);
+    message = delivery::systemMessage();
     return false;
 }
 

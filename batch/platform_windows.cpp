@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "batch/platform.h"
 
+#include "delivery/platform.h"
+
 #include <QDir>
 #include <QFileInfo>
 
@@ -72,18 +74,17 @@ bool listFolder(const QString &folder, QVector<FolderEntry> &entries, QString &m
     WIN32_FIND_DATAW found = {};
     HANDLE list = FindFirstFileW(pattern.toStdWString().c_str(), &found);
     if (list == INVALID_HANDLE_VALUE) {
-        message = qt_error_string(int(GetLastError()));
+        message = delivery::systemMessage();
         return false;
     }
     do {
         entries.append({QString::fromWCharArray(found.cFileName), true});
     } while (FindNextFileW(list, &found) != 0);
-    const DWORD end = GetLastError();
+    const bool isWhole = GetLastError() == ERROR_NO_MORE_FILES;
+    if (!isWhole)
+        message = delivery::systemMessage();
     FindClose(list);
-    if (end == ERROR_NO_MORE_FILES)
-        return true;
-    message = qt_error_string(int(end));
-    return false;
+    return isWhole;
 }
 
 bool isHidden(const QString &path)

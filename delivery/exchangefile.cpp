@@ -2,6 +2,7 @@
 #include "delivery/exchangefile.h"
 
 #include "exchange/format.h"
+#include "survey/loadfailure.h"
 
 #include <QFile>
 
@@ -154,7 +155,7 @@ ExchangeFile readExchangeFile(const QString &path)
     Examiner examiner;
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        examiner.file.message = file.errorString();
+        examiner.file.message = survey::whyUnreadable(path, file.errorString());
         return examiner.file;
     }
     // Of a longer line the beginning tells enough.

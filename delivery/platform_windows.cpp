@@ -120,7 +120,26 @@ bool mayWrite(const QString &path)
 
 QString systemMessage()
 {
-    return qt_error_string(int(GetLastError()));
+    // The system says it in its own language; these are known in English.
+    static const struct {
+        DWORD failure;
+        const char *message;
+    } messages[] = {
+        {ERROR_ACCESS_DENIED, "Permission denied"},
+        {ERROR_DISK_FULL, "No space left on device"},
+        {ERROR_HANDLE_DISK_FULL, "No space left on device"},
+        {ERROR_FILE_NOT_FOUND, "No such file or directory"},
+        {ERROR_PATH_NOT_FOUND, "No such file or directory"},
+        {ERROR_SHARING_VIOLATION, "Sharing violation"},
+        {ERROR_LOCK_VIOLATION, "Sharing violation"},
+        {ERROR_WRITE_PROTECT, "Read-only file system"},
+    };
+    const DWORD failure = GetLastError();
+    for (const auto &known : messages) {
+        if (known.failure == failure)
+            return QLatin1String(known.message);
+    }
+    return qt_error_string(int(failure));
 }
 
 /// Locks a byte that no file reaches: locks here keep others from reading and writing.

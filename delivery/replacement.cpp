@@ -94,7 +94,7 @@ bool Replacement::isSuitable()
         if (stateOf(folder).kind == FileState::Kind::Folder &&
             !QFileInfo(meant).fileName().isEmpty())
             return true;
-        return fail(Hindrance::NoFolder, systemMessage());
+        return fail(Hindrance::NoFolder);
     }
     if (old.kind != FileState::Kind::Regular)
         return fail(Hindrance::NotRegular);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "survey/loadfailure.h"
 
+#include <QFileInfo>
+
 #include <algorithm>
 #include <iterator>
 
@@ -51,6 +53,14 @@ static QString faultOf(const Loading &loading, bool beginsAsHtml)
     if (loading.failedAt.line == 1 && loading.failedAt.column == 1)
         return QLatin1String(fault == std::begin(faults) ? nothingFault : noXmlFault);
     return QLatin1String(fault != std::end(faults) ? fault->fault : "other");
+}
+
+QString whyUnreadable(const QString &path, const QString &systemSays)
+{
+    const QFileInfo file(path);
+    if (!file.exists())
+        return QStringLiteral("No such file or directory");
+    return file.isDir() ? QStringLiteral("Is a directory") : systemSays;
 }
 
 Finding failureFinding(const Loading &loading, bool beginsAsHtml)

@@ -167,6 +167,8 @@ private:
         const bool isSeen = following.failure == LoadFailure::NotWellFormed && before.isFile &&
                             file.open(QIODevice::ReadOnly);
         result.outOfMemory = following.failure == LoadFailure::OutOfMemory;
+        if (following.failure == LoadFailure::NotOpened)
+            following.message = whyUnreadable(request.source, following.message);
         add(failureFinding(following, isSeen && beginsAsHtml(file)));
         if (isSeen)
             tellOfEncoding(file, Level::Error, true);

@@ -30,6 +30,7 @@ program=("$(realpath "$1")") case=$(realpath "$2")
 operations=("$(dirname "$(realpath "$1")")/tests/operations")
 survey=("$(dirname "$(realpath "$1")")/tests/survey")
 platform=posix console_encoding=CP866 log_encoding=UTF-8 carriage_return=''
+locale=(LC_ALL=en_US.UTF-8) # LANGUAGE counts for nothing in the plain one
 batch=("$(dirname "$(realpath "$1")")/xml2ryk-batch")
 if [[ $1 == *.exe ]]; then
     platform=windows log_encoding=CP1251 carriage_return=$'\r'
@@ -37,6 +38,7 @@ if [[ $1 == *.exe ]]; then
     operations=("$root/windows/run" "${operations[@]}.exe")
     survey=("$root/windows/run" "${survey[@]}.exe")
     batch=("$root/windows/run" "${batch[@]}.exe")
+    locale=()
 fi
 [[ $case != */batch/* ]] || console_encoding=UTF-8 log_encoding=UTF-8
 if ! grep -qsx "$platform" "$case/platform" && [ -e "$case/platform" ]; then
@@ -59,7 +61,7 @@ run() {
 xml2ryk() { run "${program[@]}" "$@"; }
 operations() { run "${operations[@]}" "$@"; }
 survey() { run "${survey[@]}" "$@"; }
-batch() { run env LC_ALL=en_US.UTF-8 LANGUAGE="${language:-en}" "${batch[@]}" "$@"; }
+batch() { run env "${locale[@]}" LANGUAGE="${language:-en}" "${batch[@]}" "$@"; }
 # shellcheck source=/dev/null
 (set +eu && . ./command) </dev/null >"$work/console" 2>"$work/log"
 to_text() { iconv -f "$1" -t UTF-8 | sed "s/$carriage_return\$//"; }
