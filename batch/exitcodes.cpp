@@ -18,7 +18,8 @@ const QVector<ExitCodeInfo> &exitCodes()
                                          "old exchange file is kept")},
         {"3", QT_TRANSLATE_NOOP("Words", "something is left out; an exchange file is not whole")},
         {"4", QT_TRANSLATE_NOOP("Words", "an exchange file could not be written whole, or was held "
-                                         "back; the old one is kept")},
+                                         "back, and the old one is kept; or the outcome could not "
+                                         "be told")},
         {"130, 143", QT_TRANSLATE_NOOP("Words", "Ctrl-C or SIGTERM ended the run")},
     };
     return table;

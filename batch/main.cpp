@@ -1,18 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "batch/options.h"
 #include "batch/output.h"
+#include "batch/plan.h"
 #include "batch/platform.h"
-#include "batch/sources.h"
 #include "batch/verify.h"
 #include "delivery/interrupts.h"
-#include "delivery/platform.h"
 #include "delivery/run.h"
 #include "delivery/worker.h"
 #include "job/idledispatcher.h"
+#include "job/platform.h"
 #include "words/language.h"
 
 #include <QCoreApplication>
-#include <QSet>
 
 #include <cstring>
 
@@ -38,62 +37,12 @@ int refuse(const QString &text)
     return BadUsage;
 }
 
-/// Each source, and where its exchange file goes. Where two would go to the same, `refusal` says
-/// so.
-std::vector<Job> planJobs(const Options &options, QString &refusal)
-{
-    const bool isConversion = options.command == Command::Convert;
-    std::vector<Job> jobs;
-    QSet<QString> destinations;
-    const QVector<Source> sources = findSources(options.files);
-    if (!options.destination.isNull() &&
-        (sources.size() > 1 || sources.constFirst().path != options.files.constFirst())) {
-        refusal = Words::tr("a folder of sources needs --into and a folder");
-        return jobs;
-    }
-    for (const Source &source : sources) {
-        QString destination;
-        if (isConversion)
-            destination = options.into.isNull() ? options.destination
-                                                : destinationIn(options.into, source.path);
-        // On many systems names that differ in case alone are the same.
-        const QString folded = destination.toCaseFolded();
-        if (isConversion && destinations.contains(folded)) {
-            refusal = Words::tr("two sources have the destination %1").arg(destination);
-            return jobs;
-        }
-        destinations.insert(folded);
-        jobs.push_back({source.path, destination, source.message});
-    }
-    return jobs;
-}
-
-/// Whether the log is a file that the run reads or replaces.
-bool isLogAmong(const QString &log, const std::vector<Job> &jobs)
-{
-    const FileState state = stateOf(log);
-    return std::any_of(jobs.cbegin(), jobs.cend(), [&](const Job &job) {
-        return state.isSameAs(stateOf(job.source)) || state.isSameAs(stateOf(job.destination)) ||
-               log == job.destination;
-    });
-}
-
 int carryOut(const Options &options)
 {
     QString refusal;
-    std::vector<Job> jobs;
-    if (options.command == Command::Verify) {
-        for (const QString &file : options.files)
-            jobs.push_back({file, {}, {}});
-        if (!options.source.isNull())
-            jobs.push_back({options.source, {}, {}});
-    } else {
-        jobs = planJobs(options, refusal);
-    }
+    std::vector<Job> jobs = planJobs(options, refusal);
     if (!refusal.isNull())
         return refuse(refusal);
-    if (!options.log.isNull() && isLogAmong(options.log, jobs))
-        return refuse(Words::tr("the log %1 is one of the other files").arg(options.log));
     Output output(options);
     if (!options.log.isNull() && !output.openLog(options.log))
         return refuse(Words::tr("the log %1 can't be written").arg(options.log));
@@ -112,7 +61,8 @@ int carryOut(const Options &options)
 
 int main(int argc, char *argv[])
 {
-    preparePlatform();
+    ::preparePlatform();
+    batch::preparePlatform();
     // It says itself what there is to say.
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
     if (argc > 1 && std::strcmp(argv[1], workerArgument) == 0)

@@ -182,8 +182,8 @@ public:
             const QString argument = arguments.takeFirst();
             if (argument == QLatin1String("--"))
                 break;
-            if (argument.startsWith(QLatin1String("--")) ? !takeOption(argument)
-                                                         : !takeFile(argument))
+            const bool isOption = argument.size() > 1 && argument.startsWith(QLatin1Char('-'));
+            if (isOption ? !takeOption(argument) : !takeFile(argument))
                 return false;
         }
         if (options.isForHelp || options.isForVersion)
@@ -209,7 +209,7 @@ private:
     {
         if (arguments.isEmpty())
             return refuse(Words::tr("a command is missing"));
-        if (arguments.constFirst().startsWith(QLatin1String("--")))
+        if (arguments.constFirst().startsWith(QLatin1Char('-')))
             return true;
         const QString name = arguments.takeFirst();
         for (const CommandInfo &info : commands()) {

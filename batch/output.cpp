@@ -2,6 +2,7 @@
 #include "batch/output.h"
 
 #include "batch/platform.h"
+#include "delivery/interrupts.h"
 #include "words/language.h"
 
 #include <QDateTime>
@@ -50,15 +51,23 @@ void Output::tell(const QString &subject, const QStringList &lines, const QJsonO
             text += onOneLine(line) + QLatin1Char('\n');
     }
     clearProgress();
-    if (!write(stdout, text) && !std::exchange(isBroken, true))
-        printRefusal(Words::tr("standard output can't be written"));
+    if (!write(stdout, text))
+        failToTell(isBroken, Words::tr("standard output can't be written"));
     if (!log.isOpen())
         return;
     const QString time = QDateTime::currentDateTime().toOffsetFromUtc(0).toString(Qt::ISODate);
     const QStringList columns = {time, onOneLine(subject), onOneLine(lines.first())};
     const QByteArray bytes = columns.join(QLatin1Char('\t')).toUtf8() + '\n';
-    if (log.write(bytes) != bytes.size() && !std::exchange(isLogBroken, true))
-        printRefusal(Words::tr("the log %1 can't be written").arg(logPath));
+    if (log.write(bytes) != bytes.size())
+        failToTell(isLogBroken, Words::tr("the log %1 can't be written").arg(logPath));
+}
+
+/// Who reads it must not think that all is well.
+void Output::failToTell(bool &isKnown, const QString &text)
+{
+    exitCode = delivery::NotWritten;
+    if (!std::exchange(isKnown, true) && delivery::Interrupts::exitCode() == 0)
+        printRefusal(text);
 }
 
 void Output::showProgress(double share, const QString &source)

@@ -38,6 +38,7 @@ public:
 
 private:
     void tell(const QString &subject, const QStringList &lines, const QJsonObject &object);
+    void failToTell(bool &isKnown, const QString &text);
     void clearProgress();
 
     const bool json;

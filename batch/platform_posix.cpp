@@ -1,17 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "batch/platform.h"
 
+#include "delivery/interrupts.h"
 #include "delivery/platform.h"
 
 #include <QFile>
 #include <QTextCodec>
 
+#include <algorithm>
 #include <cerrno>
 #include <clocale>
-#include <csignal>
 #include <dirent.h>
 #include <fcntl.h>
 #include <memory>
+#include <poll.h>
 #include <sys/ioctl.h>
 #include <unistd.h>
 
@@ -22,8 +24,6 @@ void preparePlatform()
 {
     // Names of files are UTF-8, whatever the locale is.
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
-    std::signal(SIGPIPE, SIG_IGN);
-    std::signal(SIGXFSZ, SIG_IGN);
 }
 
 void prepareApplication()
@@ -65,10 +65,27 @@ int columnsOf(std::FILE *terminal)
 
 bool write(std::FILE *stream, const QString &text)
 {
+    // A pipe takes a page without waiting once it is said to be writable: what nobody reads must
+    // not hold up the end of an interrupted run.
+    constexpr int page = 4096;
+    constexpr int pause = 100;
+    const int file = fileno(stream);
     const QByteArray bytes = text.toUtf8();
-    return std::fwrite(bytes.constData(), 1, std::size_t(bytes.size()), stream) ==
-               std::size_t(bytes.size()) &&
-           std::fflush(stream) == 0;
+    for (int done = 0; done < bytes.size();) {
+        pollfd writable = {file, POLLOUT, 0};
+        if (poll(&writable, 1, pause) <= 0) {
+            if (delivery::Interrupts::exitCode() != 0)
+                return false;
+            continue;
+        }
+        const int size = std::min(page, int(bytes.size()) - done);
+        const ssize_t written = ::write(file, bytes.constData() + done, std::size_t(size));
+        if (written >= 0)
+            done += int(written);
+        else if (errno != EINTR && errno != EAGAIN)
+            return false;
+    }
+    return true;
 }
 
 bool listFolder(const QString &folder, QVector<FolderEntry> &entries, QString &message)
@@ -76,14 +93,16 @@ bool listFolder(const QString &folder, QVector<FolderEntry> &entries, QString &m
     const std::unique_ptr<DIR, int (*)(DIR *)> list(opendir(QFile::encodeName(folder).constData()),
                                                     closedir);
     // The toolkit's own lists leave out names that are no text.
-    errno = 0;
-    while (const dirent *entry = list ? readdir(list.get()) : nullptr) {
+    while (list != nullptr) {
+        errno = 0;
+        const dirent *const entry = readdir(list.get());
+        if (entry == nullptr)
+            break;
         QString name;
         const bool isName = isText(entry->d_name, name);
         entries.append({name, isName});
-        errno = 0;
     }
-    if (errno == 0)
+    if (list != nullptr && errno == 0)
         return true;
     message = delivery::systemMessage();
     return false;
@@ -97,8 +116,12 @@ bool isHidden(const QString &path)
 int openToAppend(const QString &path)
 {
     constexpr mode_t usual = 0666;
-    return open(QFile::encodeName(path).constData(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC,
-                usual);
+    // A pipe that nobody reads would be waited for.
+    const int file = open(QFile::encodeName(path).constData(),
+                          O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC | O_NONBLOCK, usual);
+    if (file >= 0)
+        fcntl(file, F_SETFL, O_APPEND);
+    return file;
 }
 
 } // namespace batch

@@ -110,6 +110,14 @@ QString summary(const QString &verdict, const QString &name, QStringList parts)
     return QStringLiteral("%1 %2: %3").arg(verdict, name, parts.join(QLatin1String(", ")));
 }
 
+/// Why it was not.
+QString whyNotRead(const Outcome &outcome)
+{
+    return outcome.survey.findings.isEmpty()
+               ? words::sentence(outcome.reason)
+               : words::sentence(outcome.survey.findings.constFirst());
+}
+
 QString damageInWords(const ExchangeFile &file)
 {
     switch (file.damage) {
@@ -162,6 +170,11 @@ QJsonObject toJson(const survey::Counts &counts)
 
 } // namespace
 
+bool isRead(const Outcome &outcome)
+{
+    return outcome.exitCode == delivery::Complete || outcome.exitCode == delivery::Incomplete;
+}
+
 QJsonObject toJson(const Outcome &outcome)
 {
     const Speaking english(Language::English);
@@ -199,17 +212,16 @@ QJsonObject toJson(const Outcome &outcome)
 QStringList toLines(const Outcome &outcome)
 {
     const survey::Survey &survey = outcome.survey;
-    const bool isRead = outcome.exitCode != delivery::NotRead &&
-                        outcome.reason.kind == delivery::Reason::Kind::None;
     const bool isAboutSource =
         outcome.destination.isNull() || outcome.exitCode == delivery::NotRead;
     QStringList lines = {summary(
-        verdictOn(outcome.exitCode), isAboutSource ? outcome.source : outcome.destination,
-        {isRead ? words::countsInWords(survey.counts) : QString(), words::levelsInWords(survey),
-         words::sentence(outcome.reason),
-         outcome.file == Outcome::File::Kept && outcome.exitCode != delivery::NotWritten && isRead
-             ? Words::tr("the same as before")
-             : QString()})};
+        isAboutSource && outcome.exitCode == delivery::NotWritten ? verdictOn(delivery::NotRead)
+                                                                  : verdictOn(outcome.exitCode),
+        isAboutSource ? outcome.source : outcome.destination,
+        {isRead(outcome) ? words::countsInWords(survey.counts) : QString(),
+         words::levelsInWords(survey), words::sentence(outcome.reason),
+         outcome.file == Outcome::File::Kept && isRead(outcome) ? Words::tr("the same as before")
+                                                                : QString()})};
     QMap<survey::Kind, int> shown;
     for (const Finding &finding : survey.findings) {
         lines.append(toLine(finding));
@@ -237,10 +249,13 @@ QJsonObject toJson(const Verification &verification)
     object.insert(QStringLiteral("text"), orNull(text));
     if (!verification.source.isNull()) {
         object.insert(QStringLiteral("source"), verification.source);
-        object.insert(QStringLiteral("wanted"), !verification.whyNot.isNull()
+        const bool isKnown = verification.wanted && isRead(*verification.wanted);
+        object.insert(QStringLiteral("wanted"),
+                      isKnown ? toJson(asInFile(verification.wanted->survey.counts))
+                              : QJsonValue());
+        object.insert(QStringLiteral("reason"), isKnown || !verification.wanted
                                                     ? QJsonValue()
-                                                    : toJson(asInFile(verification.wanted)));
-        object.insert(QStringLiteral("reason"), orNull(verification.whyNot));
+                                                    : whyNotRead(*verification.wanted));
     }
     return object;
 }
@@ -256,14 +271,17 @@ QStringList toLines(const Verification &verification)
         return {summary(verdict, path,
                         {Words::tr("the file can't be read") + QLatin1String(": ") +
                          words::systemWords(file.message)})};
-    const survey::Counts wanted = asInFile(verification.wanted);
-    const bool differs = !verification.source.isNull() && verification.whyNot.isNull() &&
-                         toJson(wanted) != toJson(countsOf(file));
-    QStringList lines = {summary(
-        verdict, path,
-        {words::countsInWords(countsOf(file)), verification.whyNot,
-         differs ? Words::tr("of the source it should have %1").arg(words::countsInWords(wanted))
-                 : QString()})};
+    QString comparison;
+    if (verification.wanted && !isRead(*verification.wanted)) {
+        comparison = whyNotRead(*verification.wanted);
+    } else if (verification.wanted) {
+        const survey::Counts wanted = asInFile(verification.wanted->survey.counts);
+        if (toJson(wanted) != toJson(countsOf(file)))
+            comparison =
+                Words::tr("of the source it should have %1").arg(words::countsInWords(wanted));
+    }
+    QStringList lines = {
+        summary(verdict, path, {words::countsInWords(countsOf(file)), comparison})};
     if (file.damage != Damage::None)
         lines.append(QStringLiteral("  %1: %2").arg(file.line).arg(damageInWords(file)));
     return lines;

@@ -9,6 +9,8 @@
 #include <QJsonObject>
 #include <QStringList>
 
+#include <optional>
+
 namespace batch
 {
 
@@ -19,10 +21,12 @@ struct Verification {
     QString path;
     int exitCode = delivery::Complete;
     delivery::ExchangeFile file;
-    QString source; ///< null: it is compared with none
-    survey::Counts wanted;
-    QString whyNot; ///< why there is nothing to compare it with; null otherwise
+    QString source;                ///< null: it is compared with none
+    std::optional<Outcome> wanted; ///< what came of that
 };
+
+/// Whether a source was read, so that its counts say something.
+bool isRead(const Outcome &outcome);
 
 // For programs: the texts in it are in English.
 QJsonObject toJson(const Outcome &outcome);

@@ -40,9 +40,15 @@ static QVector<Source> sourcesOf(const QString &folder)
 
 QVector<Source> findSources(const QStringList &names)
 {
+    // Workers have another standard input.
+    static const QStringList standardInput = {QStringLiteral("/dev/stdin"),
+                                              QStringLiteral("/dev/fd/0"),
+                                              QStringLiteral("/proc/self/fd/0")};
     QVector<Source> sources;
     for (const QString &name : names) {
-        if (QFileInfo(name).isDir())
+        if (standardInput.contains(name))
+            sources.append({name, QStringLiteral("Standard input")});
+        else if (QFileInfo(name).isDir())
             sources += sourcesOf(name);
         else
             sources.append({name, QString()});

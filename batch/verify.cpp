@@ -3,8 +3,6 @@
 
 #include "delivery/interrupts.h"
 #include "delivery/run.h"
-#include "words/findings.h"
-#include "words/outcomes.h"
 
 namespace batch
 {
@@ -18,22 +16,15 @@ static bool hasAll(const ExchangeFile &file, const survey::Counts &counts)
            file.documents == counts.documents && file.lines == counts.lines;
 }
 
-/// What the source would bring there. False if an interrupt came instead.
-static bool survey(const Options &options, Verification &verification)
+/// What the source would bring there; nothing if an interrupt came instead.
+static std::optional<Outcome> survey(const Options &options)
 {
     RunOptions checking = options.run;
     checking.request.allowEmpty = true; // the file may be empty, too
+    std::optional<Outcome> wanted;
     Run run(checking, {{options.source, {}, {}}});
-    run.tell = [&](const Outcome &outcome) {
-        verification.wanted = outcome.survey.counts;
-        if (outcome.exitCode == Complete || outcome.exitCode == Incomplete)
-            return;
-        verification.exitCode = NotRead;
-        verification.whyNot = outcome.survey.findings.isEmpty()
-                                  ? words::sentence(outcome.reason)
-                                  : words::sentence(outcome.survey.findings.constFirst());
-    };
-    return run.exec();
+    run.tell = [&](const Outcome &outcome) { wanted = outcome; };
+    return run.exec() ? wanted : std::nullopt;
 }
 
 int verify(const Options &options, Output &output)
@@ -48,9 +39,12 @@ int verify(const Options &options, Output &output)
         else if (!verification.file.isWhole())
             verification.exitCode = Incomplete;
         if (!options.source.isNull() && verification.file.message.isNull()) {
-            if (!survey(options, verification))
+            verification.wanted = survey(options);
+            if (!verification.wanted)
                 return Interrupts::exitCode();
-            if (verification.whyNot.isNull() && !hasAll(verification.file, verification.wanted))
+            if (!isRead(*verification.wanted))
+                verification.exitCode = NotRead;
+            else if (!hasAll(verification.file, verification.wanted->survey.counts))
                 verification.exitCode = Incomplete;
         }
         output.tell(verification);

@@ -61,82 +61,100 @@ bool isMarker(const QByteArray &line)
            isLine(line, exchange::closeOrder);
 }
 
-/// Reads the lines of an exchange file one by one.
+/// Reads the lines of an exchange file one by one. Of several damages it tells the first, and
+/// counts on.
 class Examiner
 {
 public:
-    /// A line without its end. False: it shows damage.
-    bool take(const QByteArray &line, bool hasZero)
+    /// A line without its end.
+    void take(const QByteArray &line)
     {
         ++number;
-        if (hasZero)
-            return fail(Damage::BrokenBytes, number);
-        if (number == 1)
-            return isLine(line, exchange::fileHeader) || fail(Damage::NoHeader, number);
-        return block == nullptr ? takeBetween(line) : takeInside(line);
+        if (number == 1) {
+            if (!isLine(line, exchange::fileHeader))
+                note(Damage::NoHeader, number);
+        } else if (block == nullptr) {
+            takeBetween(line);
+        } else {
+            takeInside(line);
+        }
     }
 
     /// The file is over; `rest` is a line without an end.
     void finish(const QByteArray &rest)
     {
         if (!rest.isEmpty() && number > 0)
-            fail(Damage::CutLine, number + 1);
+            note(Damage::CutLine, number + 1);
         else if (number == 0)
-            fail(Damage::NoHeader, 1);
+            note(Damage::NoHeader, 1);
         else if (block != nullptr)
-            fail(Damage::OpenBlock, blockLine);
+            note(Damage::OpenBlock, blockLine);
         else if (place == Place::Order || place == Place::Line)
-            fail(Damage::OpenOrder, orderLine);
+            note(Damage::OpenOrder, orderLine);
     }
+
+    void noteBrokenBytes() { note(Damage::BrokenBytes, number + 1); }
 
     ExchangeFile file;
 
 private:
-    bool fail(Damage damage, int line)
+    void note(Damage damage, int line)
     {
+        if (file.damage != Damage::None)
+            return;
         file.damage = damage;
         file.line = line;
-        return false;
     }
 
-    bool takeBetween(const QByteArray &line)
+    /// The block that begins with this line; nullptr if none does.
+    const BlockInfo *findBlock(const QByteArray &line)
+    {
+        const BlockInfo *found = nullptr;
+        for (const BlockInfo &info : blocks) {
+            if (!isLine(line, info.markers.begin))
+                continue;
+            if (info.from == place)
+                return &info;
+            if (found == nullptr)
+                found = &info;
+        }
+        note(Damage::StrayLine, number);
+        return found;
+    }
+
+    void takeBetween(const QByteArray &line)
     {
         if (place == Place::Order && isLine(line, exchange::closeOrder)) {
             place = Place::Documents;
-            return true;
+            return;
         }
-        const auto found = std::find_if(blocks.cbegin(), blocks.cend(), [&](const BlockInfo &info) {
-            return info.from == place && isLine(line, info.markers.begin);
-        });
-        if (found == blocks.cend())
-            return fail(Damage::StrayLine, number);
-        block = found;
+        block = findBlock(line);
+        if (block == nullptr)
+            return;
         blockLine = number;
-        if (found->to == Place::Order && found->from == Place::Partner)
+        if (block->from == Place::Partner && block->to == Place::Order)
             orderLine = number;
         isInText = false;
-        return true;
     }
 
-    bool takeInside(const QByteArray &line)
+    void takeInside(const QByteArray &line)
     {
         const bool isFirst = number == blockLine + 1;
         const bool wasEndOfText =
             std::exchange(isEndOfText, isInText && isLine(line, exchange::freeText.end));
         if (isFirst && !line.startsWith(block->firstKey))
-            return fail(Damage::StrayLine, number);
+            note(Damage::StrayLine, number);
         if (isLine(line, block->markers.end) && (!isInText || wasEndOfText)) {
             if (block->count != nullptr)
                 ++(file.*block->count);
             place = block->to;
             block = nullptr;
-            return true;
+            return;
         }
         // A text may have any lines; between keys a marker is one.
         if (!isInText && isMarker(line))
-            return fail(Damage::StrayLine, number);
+            note(Damage::StrayLine, number);
         isInText = isInText || isLine(line, exchange::freeText.begin);
-        return true;
     }
 
     int number = 0; ///< of the latest line, from 1
@@ -161,17 +179,19 @@ ExchangeFile readExchangeFile(const QString &path)
     // Of a longer line the beginning tells enough.
     constexpr qint64 longest = 1 << 16;
     QByteArray line;
-    bool hasZero = false;
     for (QByteArray piece = file.readLine(longest); !piece.isEmpty();
          piece = file.readLine(longest)) {
-        hasZero = hasZero || piece.contains('\0');
+        if (piece.contains('\0')) {
+            // A hole that a crash has left, or a device without an end.
+            examiner.noteBrokenBytes();
+            return examiner.file;
+        }
         line += piece.left(int(longest - line.size()));
         if (!piece.endsWith('\n'))
             continue;
         if (line.endsWith('\n'))
             line.chop(1);
-        if (!examiner.take(line, hasZero))
-            return examiner.file;
+        examiner.take(line);
         line.clear();
     }
     examiner.finish(line);

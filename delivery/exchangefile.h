@@ -23,7 +23,7 @@ struct ExchangeFile {
     Damage damage = Damage::None;
     int line = 0; ///< that shows the damage, or where what is open begins
 
-    // What it holds up to there.
+    // What it holds.
     int goods = 0; ///< of catalogues and offers
     int partners = 0;
     int documents = 0;

@@ -86,7 +86,7 @@ NewFile::Creation NewFile::create(const QString &newPath)
         if (const std::optional<Creation> creation = tryToCreate(newPath))
             return *creation;
     }
-    return Creation::Held;
+    return errno == EWOULDBLOCK ? Creation::Held : Creation::Failed;
 }
 
 /// Nothing, where it is worth another attempt.
@@ -118,6 +118,7 @@ std::optional<NewFile::Creation> NewFile::tryToCreate(const QString &newPath)
     // Whoever had the lock before may have renamed or removed the file.
     if (!isInPlace()) {
         close();
+        errno = EEXIST;
         return std::nullopt;
     }
     if (isOurs)

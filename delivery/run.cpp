@@ -243,9 +243,9 @@ void Run::showProgress()
 {
     if (!progressed || told == jobs.size())
         return;
-    double done = 0;
-    for (const Running &running : jobs)
-        done += running.isOver ? 1 : running.share;
+    double done = double(told);
+    for (std::size_t i = told; i < started; ++i)
+        done += jobs[i].isOver ? 1 : jobs[i].share;
     progressed(done / double(jobs.size()), jobs[told].job.source);
 }
 

@@ -15,6 +15,33 @@ namespace delivery
 // What a worker has read it may not have given back to the system.
 constexpr qint64 mostBytes = 50'000'000;
 
+namespace
+{
+
+/// A process that is ended only where there is one. Where the system makes none, the toolkit may
+/// not notice, and its number stands for all processes then.
+class Process : public QProcess
+{
+public:
+    ~Process() override { forgetIfMissing(); }
+    Q_DISABLE_COPY(Process)
+    Process() = default;
+
+    void forgetIfMissing()
+    {
+        if (processId() <= 0)
+            setProcessState(NotRunning);
+    }
+
+    void end()
+    {
+        if (processId() > 0)
+            kill();
+    }
+};
+
+} // namespace
+
 class Workers::Worker
 {
 public:
@@ -31,7 +58,7 @@ public:
     qint64 bytes = 0;           ///< of all of its sources
     QByteArray unread;
     QTimer timer;
-    QProcess process;
+    Process process;
 
     bool isFree() const { return state == State::Serving && !order; }
 
@@ -86,7 +113,7 @@ void Workers::stop()
         worker->process.blockSignals(true);
         worker->timer.stop();
         worker->order.reset();
-        worker->process.kill();
+        worker->process.end();
     }
     for (const auto &worker : workers)
         worker->process.waitForFinished();
@@ -101,7 +128,9 @@ void Workers::giveOrders()
         workers.end());
     const auto isBusy = [](const auto &worker) { return worker->order.has_value(); };
     while (!isStopped && std::count_if(workers.cbegin(), workers.cend(), isBusy) < setup.count) {
-        const std::optional<Order> order = next();
+        std::optional<Order> order = std::exchange(returned, std::nullopt);
+        if (!order)
+            order = next();
         if (!order || isStopped)
             return;
         give(*order);
@@ -122,6 +151,11 @@ void Workers::give(const Order &order)
         worker.process.start(setup.program, setup.arguments);
         if (worker.state == Worker::State::Gone)
             return;
+        if (worker.process.processId() <= 0) {
+            worker.process.forgetIfMissing();
+            failToStart(worker, QString());
+            return;
+        }
         tieToThisProcess(worker.process);
     }
     worker.process.write(toLine(order));
@@ -149,15 +183,30 @@ Workers::Worker &Workers::add()
                      [this, &worker](QProcess::ProcessError error) {
                          if (error != QProcess::FailedToStart)
                              return;
-                         worker.state = Worker::State::Gone;
-                         end(worker, Ending::Kind::NotStarted, worker.process.errorString());
+                         failToStart(worker, worker.process.errorString());
                      });
     worker.timer.setSingleShot(true);
     QObject::connect(&worker.timer, &QTimer::timeout, &process, [&worker] {
         worker.isLate = true;
-        worker.process.kill();
+        worker.process.end();
     });
     return worker;
+}
+
+/// With fewer workers the order may be carried out all the same.
+void Workers::failToStart(Worker &worker, const QString &message)
+{
+    worker.state = Worker::State::Gone;
+    const auto others = std::count_if(workers.cbegin(), workers.cend(), [&](const auto &other) {
+        return other.get() != &worker && other->order.has_value();
+    });
+    if (others == 0) {
+        end(worker, Ending::Kind::NotStarted, message);
+        return;
+    }
+    worker.timer.stop();
+    returned = std::exchange(worker.order, std::nullopt);
+    setup.count = int(others);
 }
 
 void Workers::hear(Worker &worker)
@@ -176,7 +225,7 @@ void Workers::hear(Worker &worker)
                 worker.leave();
             end(worker, Ending::Kind::Answered, QString(), *reply.answer);
         } else {
-            worker.process.kill();
+            worker.process.end();
         }
     }
 }

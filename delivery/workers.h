@@ -75,13 +75,15 @@ private:
     void giveOrders();
     void give(const Order &order);
     Worker &add();
+    void failToStart(Worker &worker, const QString &message);
     void hear(Worker &worker);
     void end(Worker &worker, Ending::Kind kind, const QString &message,
              const survey::Conversion &answer = {});
 
     Setup setup;
     std::vector<std::unique_ptr<Worker>> workers;
-    QTimer giving; ///< has the event loop call giveOrders()
+    std::optional<Order> returned; ///< by a worker that could not be started
+    QTimer giving;                 ///< has the event loop call giveOrders()
     bool isStopped = false;
 };
 

@@ -57,10 +57,16 @@ static QString faultOf(const Loading &loading, bool beginsAsHtml)
 
 QString whyUnreadable(const QString &path, const QString &systemSays)
 {
+#ifdef Q_OS_WIN
     const QFileInfo file(path);
     if (!file.exists())
         return QStringLiteral("No such file or directory");
-    return file.isDir() ? QStringLiteral("Is a directory") : systemSays;
+    if (file.isDir())
+        return QStringLiteral("Is a directory");
+#else
+    Q_UNUSED(path)
+#endif
+    return systemSays;
 }
 
 Finding failureFinding(const Loading &loading, bool beginsAsHtml)

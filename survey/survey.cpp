@@ -206,7 +206,7 @@ private:
                  !following.positionsAreEnds,
                  {},
                  {rootElement.tagName()}});
-        else if (!hasLoss() && !request.allowEmpty)
+        else if (hasLoss() || !request.allowEmpty)
             add(Kind::Empty);
     }
 

@@ -187,8 +187,17 @@ expect 4 'NOT WRITTEN hard.txt: the old exchange file has other names, hard link
     ./batch convert small.xml hard.txt
 expect 4 'NOT WRITTEN /dev/null: the destination is no ordinary file' \
     ./batch convert small.xml /dev/null
-expect 0 'xml2ryk-batch: standard output can'\''t be written' \
+
+# An outcome that can't be told, and a file that never ends.
+expect 4 'xml2ryk-batch: standard output can'\''t be written' \
     bash -c './batch check small.xml >/dev/full'
+expect 4 "OK small.xml: 2 offers
+xml2ryk-batch: the log /dev/full can't be written" ./batch check --log /dev/full small.xml
+expect 1 "xml2ryk-batch: the log other.xml can't be written" ./batch check --log other.xml small.xml
+expect 3 'NOT WHOLE /dev/zero: nothing
+  1: this line has bytes that nobody writes into an exchange file' ./batch verify /dev/zero
+./batch check --log closed.txt small.xml <&- >&- 2>&-
+[ "$(cut -f 2- closed.txt)" = $'small.xml\tOK small.xml: 2 offers' ] || fail "$(<closed.txt)"
 
 # Many small ones.
 mkdir many all
@@ -199,6 +208,23 @@ done
 [ "$(grep -c '"exit":0.*"outcome":"created"' many.txt)" = 2000 ] || fail "not all are created"
 awk '/^code:/ { split(FILENAME, parts, /[\/.]/); count += $0 == "code:" parts[2] }
     END { exit count != 2000 }' all/*.txt || fail "not each has the good of its source"
+
+# Fewer workers than are wanted are better than none.
+expect 0 '' bash -c 'ulimit -n 40; ./batch check --jobs 40 many >told.txt'
+[ "$(wc -l <told.txt)" = 2000 ] || fail "not all are told"
+
+# A signal ends a run that nobody listens to.
+mkfifo unread
+./batch check --json many >unread &
+batch=$!
+exec 8<unread
+sleep 0.5
+kill -TERM "$batch"
+wait_until is_over "$batch"
+code=0
+wait "$batch" || code=$?
+exec 8<&-
+[ "$code" = 143 ] || fail "exit code $code"
 
 # A limit of the system.
 cp small.txt out/goods.txt
@@ -236,7 +262,7 @@ old goods.txt' unshare --mount bash -c '
         echo "$(<disk/goods.txt) $(ls -A disk)"
         exit "$code"'
     # shellcheck disable=SC2016
-    expect 4 'NOT WRITTEN disk/goods.txt: there is no right to write the old exchange file: the disk is write-protected' \
+    expect 4 'NOT WRITTEN disk/goods.txt: the old exchange file can'\''t be written: the disk is write-protected' \
         unshare --mount bash -c '
         mount -t tmpfs tmpfs disk
         echo old >disk/goods.txt
@@ -248,6 +274,19 @@ fi
 owner() { stat -c '%u %g %a' "$1"; }
 as_other() { setpriv --reuid 1234 --regid 1234 --groups 1235 "$@"; }
 denied="can't get the owner, the group and the rights of the old one: there is no right to do so"
+
+# Workers that can't be had. The process of the batch is the only one of that user.
+expect 2 'ERROR small.xml: no process could be started to read the source' \
+    as_other bash -c 'ulimit -u 1; exec ./batch check --timeout 5 small.xml'
+
+# What may not be read.
+mkdir -m 311 dark
+cp small.xml dark
+install -m 600 small.xml secret.xml
+expect 2 'ERROR dark: 1 error
+  error: the source can'\''t be read: there is no right to do so
+ERROR secret.xml: 1 error
+  error: the source can'\''t be read: there is no right to do so' as_other ./batch check dark secret.xml
 
 # The owner of the old file stays.
 chown 1234:1235 out/goods.txt
@@ -264,7 +303,7 @@ expect 0 'OK out/goods.txt: 2 offers' as_other ./batch convert small.xml out/goo
 [ "$(owner out/goods.txt)" = '1234 1235 640' ] || fail "$(owner out/goods.txt)"
 expect 0 'OK out/other.txt: 10000 offers' as_other ./batch convert new.xml out/other.txt
 chmod 440 out/other.txt
-expect 4 'NOT WRITTEN out/other.txt: there is no right to write the old exchange file: there is no right to do so' \
+expect 4 'NOT WRITTEN out/other.txt: the old exchange file can'\''t be written: there is no right to do so' \
     as_other ./batch convert small.xml out/other.txt
 for owner in 0:1235 1234:0; do
     chown "$owner" out/other.txt

@@ -23,25 +23,35 @@ static Language &spoken()
 static QString localeOfEnvironment()
 {
     for (const char *const variable : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
-        const QString locale = qEnvironmentVariable(variable);
+        QString locale = qEnvironmentVariable(variable);
         if (!locale.isEmpty())
             return locale;
     }
     return {};
 }
 
+static bool isSpoken(const QString &locale, QLocale::Language language)
+{
+    return QLocale(locale).language() == language;
+}
+
 Language languageOfUser()
 {
     QString locale = localeOfEnvironment();
-    const QString languages = qEnvironmentVariable("LANGUAGE");
     // The plain locale is that of programs, whatever people prefer.
-    if (!languages.isEmpty() && !locale.isEmpty() && !locale.startsWith(u'C'))
-        locale = languages.section(u':', 0, 0);
+    const bool isPlain =
+        locale.isEmpty() || locale.startsWith(u'C') || locale == QLatin1String("POSIX");
+    for (const QString &preferred : qEnvironmentVariable("LANGUAGE").split(u':')) {
+        if (!isPlain && isSpoken(preferred, QLocale::Russian))
+            return Language::Russian;
+        if (!isPlain && isSpoken(preferred, QLocale::English))
+            return Language::English;
+    }
 #ifdef Q_OS_WIN
     if (locale.isEmpty())
         locale = QLocale::system().uiLanguages().value(0);
 #endif
-    return QLocale(locale).language() == QLocale::Russian ? Language::Russian : Language::English;
+    return isSpoken(locale, QLocale::Russian) ? Language::Russian : Language::English;
 }
 
 Speaking::Speaking(Language language) : before(spoken())

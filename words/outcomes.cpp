@@ -25,7 +25,7 @@ static QString sentence(Replacement::Hindrance hindrance)
     case Hindrance::IsSource:
         return Words::tr("the destination is the source itself");
     case Hindrance::NotWritable:
-        return Words::tr("there is no right to write the old exchange file");
+        return Words::tr("the old exchange file can't be written");
     case Hindrance::HasMoreNames:
         return Words::tr("the old exchange file has other names, hard links, which would keep the "
                          "old content");
@@ -83,11 +83,17 @@ static const struct {
     {"The process cannot access the file because it is being used by another process",
      QT_TRANSLATE_NOOP("Words", "another program has it open")},
     {"Sharing violation", QT_TRANSLATE_NOOP("Words", "another program has it open")},
+    {"Too many levels of symbolic links",
+     QT_TRANSLATE_NOOP("Words", "its links lead to each other")},
+    {"File name too long", QT_TRANSLATE_NOOP("Words", "the name is too long")},
+    {"No such device or address", QT_TRANSLATE_NOOP("Words", "there is no such device")},
+    {"File exists", QT_TRANSLATE_NOOP("Words", "something else has that name")},
     {"Too many open files", QT_TRANSLATE_NOOP("Words", "too many files are open")},
     {"Cannot allocate memory", QT_TRANSLATE_NOOP("Words", "memory ran out")},
     // Those of batch/sources.cpp.
     {"No sources in folder", QT_TRANSLATE_NOOP("Words", "the folder has no *.xml")},
     {"Name is not text", QT_TRANSLATE_NOOP("Words", "the name of the file is no text")},
+    {"Standard input", QT_TRANSLATE_NOOP("Words", "it is standard input, which is not read")},
     {"Not a regular file", QT_TRANSLATE_NOOP("Words", "it is no ordinary file")},
 };
 
@@ -123,7 +129,7 @@ QString sentence(const Reason &reason)
     case Reason::Kind::NotWritten:
         return Words::tr("the exchange file could not be written whole");
     case Reason::Kind::Loss:
-        return Words::tr("the old file is kept, since something would be left out");
+        return Words::tr("it is not written, since something would be left out");
     case Reason::Kind::FewerGoods:
         return Words::tr("the old file is kept: it has %n good(s), the new one would have %1",
                          nullptr, reason.before)

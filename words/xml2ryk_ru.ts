@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>the source is no well-formed XML: %1</source>
-        <translation>источник — неправильный XML: %1</translation>
+        <translation>источник не является правильным XML: %1</translation>
     </message>
     <message>
         <source>no encoding is declared, and the source is not in UTF-8</source>
@@ -129,7 +129,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; has no identifier, and is left out</source>
-        <translation>у «%1» нет идентификатора; пропущено</translation>
+        <translation>у элемента «%1» нет идентификатора, он пропущен</translation>
     </message>
     <message>
         <source>the document has no lines, and the export ends at it</source>
@@ -145,7 +145,7 @@
     </message>
     <message>
         <source>a group above the group &quot;%1&quot; is missing</source>
-        <translation>над группой «%1» недостаёт группы</translation>
+        <translation>у группы «%1» нет вышестоящей группы</translation>
     </message>
     <message>
         <source>there is no group &quot;%1&quot;</source>
@@ -161,7 +161,7 @@
     </message>
     <message>
         <source>%1 has a line break</source>
-        <translation>%1 — с переводом строки</translation>
+        <translation>%1: есть перевод строки</translation>
     </message>
     <message>
         <source>%1 has the line &quot;%2&quot;, which looks like one of the exchange file</source>
@@ -193,7 +193,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; stands where no export looks for it, and is left out</source>
-        <translation>«%1» стоит там, где выгрузка его не ищет; пропущено</translation>
+        <translation>«%1» стоит там, где выгрузка его не ищет, и пропущен</translation>
     </message>
     <message>
         <source>the partner &quot;%1&quot; has another role than the wanted one</source>
@@ -321,15 +321,11 @@
     </message>
     <message>
         <source>the destination is no ordinary file</source>
-        <translation>приёмник — не обычный файл</translation>
+        <translation>файл назначения — не обычный файл</translation>
     </message>
     <message>
         <source>the destination is the source itself</source>
-        <translation>приёмник — сам источник</translation>
-    </message>
-    <message>
-        <source>there is no right to write the old exchange file</source>
-        <translation>нет прав на запись прежнего файла обмена</translation>
+        <translation>файл назначения — сам источник</translation>
     </message>
     <message>
         <source>the old exchange file has other names, hard links, which would keep the old content</source>
@@ -345,7 +341,7 @@
     </message>
     <message>
         <source>no new file can be created beside the destination</source>
-        <translation>рядом с приёмником не удаётся создать новый файл</translation>
+        <translation>рядом с файлом назначения не удаётся создать новый файл</translation>
     </message>
     <message>
         <source>the new exchange file is not what was written into it</source>
@@ -405,7 +401,7 @@
     </message>
     <message>
         <source>a file may not become so large</source>
-        <translation>файлу нельзя стать таким большим</translation>
+        <translation>файл превысил бы допустимый размер</translation>
     </message>
     <message>
         <source>the disk is write-protected</source>
@@ -429,7 +425,7 @@
     </message>
     <message>
         <source>wrong usage; nothing was done</source>
-        <translation>вызов неверен; ничего не сделано</translation>
+        <translation>неверный вызов; ничего не сделано</translation>
     </message>
     <message>
         <source>a file can&apos;t be read, or there is nothing to export; the old exchange file is kept</source>
@@ -438,10 +434,6 @@
     <message>
         <source>something is left out; an exchange file is not whole</source>
         <translation>что-то не перешло; файл обмена не цел</translation>
-    </message>
-    <message>
-        <source>an exchange file could not be written whole, or was held back; the old one is kept</source>
-        <translation>файл обмена не удалось записать целиком, или он задержан; прежний оставлен</translation>
     </message>
     <message>
         <source>Ctrl-C or SIGTERM ended the run</source>
@@ -453,7 +445,7 @@
     </message>
     <message>
         <source>two sources have the destination %1</source>
-        <translation>у двух источников один приёмник %1</translation>
+        <translation>у двух источников один файл назначения %1</translation>
     </message>
     <message>
         <source>the log %1 is one of the other files</source>
@@ -461,7 +453,7 @@
     </message>
     <message>
         <source>the log %1 can&apos;t be written</source>
-        <translation>журнал %1 не удаётся вести</translation>
+        <translation>в журнал %1 не удаётся писать</translation>
     </message>
     <message>
         <source>the argument &quot;%1&quot; is no UTF-8</source>
@@ -505,7 +497,7 @@
     </message>
     <message>
         <source>every finding, not the first ten of a kind</source>
-        <translation>все находки, а не первые десять каждого вида</translation>
+        <translation>все замечания, а не первые десять каждого вида</translation>
     </message>
     <message>
         <source>N</source>
@@ -545,7 +537,7 @@
     </message>
     <message>
         <source>how long to wait for another run&apos;s destination; 0 if absent</source>
-        <translation>сколько ждать приёмник, занятый другим запуском; если нет — 0</translation>
+        <translation>сколько ждать файл назначения, занятый другим запуском; если нет — 0</translation>
     </message>
     <message>
         <source>a loss keeps the old file</source>
@@ -625,7 +617,7 @@
     </message>
     <message>
         <source>the destination is missing</source>
-        <translation>не указан приёмник</translation>
+        <translation>не указан файл назначения</translation>
     </message>
     <message>
         <source>several sources need --into and a folder</source>
@@ -653,7 +645,7 @@
     </message>
     <message>
         <source>Exit codes, of several the gravest, which is 4, then 2, then 3:</source>
-        <translation>Коды завершения; из нескольких — самый тяжёлый: 4, затем 2, затем 3:</translation>
+        <translation>Коды завершения; из нескольких — самый серьёзный: 4, затем 2, затем 3:</translation>
     </message>
     <message>
         <source>standard output can&apos;t be written</source>
@@ -725,15 +717,11 @@
     </message>
     <message>
         <source>of the source it should have %1</source>
-        <translation>из источника в нём должно быть: %1</translation>
+        <translation>по источнику в нём должно быть: %1</translation>
     </message>
     <message>
         <source>the exchange file could not be written whole</source>
         <translation>файл обмена не удалось записать целиком</translation>
-    </message>
-    <message>
-        <source>the old file is kept, since something would be left out</source>
-        <translation>прежний файл оставлен: в новый попало бы не всё</translation>
     </message>
     <message numerus="yes">
         <source>the old file is kept: it has %n good(s), the new one would have %1</source>
@@ -762,6 +750,42 @@
     <message>
         <source>it is no ordinary file</source>
         <translation>это не обычный файл</translation>
+    </message>
+    <message>
+        <source>an exchange file could not be written whole, or was held back, and the old one is kept; or the outcome could not be told</source>
+        <translation>файл обмена не удалось записать целиком, или новый файл отклонён, и прежний оставлен; или не удалось сообщить об итоге</translation>
+    </message>
+    <message>
+        <source>the destination %1 is another source</source>
+        <translation>файл назначения %1 — другой источник</translation>
+    </message>
+    <message>
+        <source>the old exchange file can&apos;t be written</source>
+        <translation>прежний файл обмена нельзя записать</translation>
+    </message>
+    <message>
+        <source>its links lead to each other</source>
+        <translation>его ссылки ведут друг на друга</translation>
+    </message>
+    <message>
+        <source>the name is too long</source>
+        <translation>слишком длинное имя</translation>
+    </message>
+    <message>
+        <source>there is no such device</source>
+        <translation>такого устройства нет</translation>
+    </message>
+    <message>
+        <source>something else has that name</source>
+        <translation>это имя занято</translation>
+    </message>
+    <message>
+        <source>it is standard input, which is not read</source>
+        <translation>это стандартный ввод, он не читается</translation>
+    </message>
+    <message>
+        <source>it is not written, since something would be left out</source>
+        <translation>файл не записан: в него попало бы не всё</translation>
     </message>
 </context>
 </TS>
