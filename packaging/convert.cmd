@@ -60,6 +60,9 @@ if "%ended%"=="0" echo Everything is in the exchange file.
 if "%ended%"=="2" echo Not converted. An older exchange file is unchanged.
 if "%ended%"=="3" echo Converted, but something of the source is not in the exchange file.
 if "%ended%"=="4" echo Not written. An older exchange file is unchanged.
+set "known="
+for %%a in (0 2 3 4) do if "%ended%"=="%%a" set "known=yes"
+if not defined known echo Something went wrong. An older exchange file is unchanged.
 if not "%ended%"=="0" set "code=%ended%"
 echo.
 goto next
