@@ -36,7 +36,7 @@ QStringList arguments(int /*argc*/, char ** /*argv*/, QString & /*notText*/)
 
 static HANDLE handleOf(std::FILE *stream)
 {
-    return reinterpret_cast<HANDLE>(_get_osfhandle(_fileno(stream)));
+    return GetStdHandle(stream == stdout ? STD_OUTPUT_HANDLE : STD_ERROR_HANDLE);
 }
 
 bool isTerminal(std::FILE *stream)

@@ -243,7 +243,7 @@ void Run::showProgress()
 {
     if (!progressed || told == jobs.size())
         return;
-    double done = double(told);
+    auto done = double(told);
     for (std::size_t i = told; i < started; ++i)
         done += jobs[i].isOver ? 1 : jobs[i].share;
     progressed(done / double(jobs.size()), jobs[told].job.source);
