@@ -71,6 +71,8 @@ public:
         if (loadSource(request.source)) {
             if (request.keepsTree)
                 keepTree(document);
+            if (request.tree != nullptr)
+                *request.tree = document;
             readStructure();
             if (goesOn(before.size))
                 exportAll();

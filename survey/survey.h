@@ -51,6 +51,9 @@ struct Request {
     QSet<Kind> accepted = {}; ///< losses that are doubts
     bool keepsTree = false;   ///< never frees what it loads: for a process that ends soon
 
+    /// Gets what is loaded, for who goes on with it; null: nobody does. Nothing else has it then.
+    QDomDocument *tree = nullptr;
+
     /// Asked every now and then, with the bytes of the source that have been read and those that
     /// there are, 0 if nobody knows. False stops it.
     std::function<bool(qint64 done, qint64 total)> goesOn = {};
