@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+#include "window/arrangement.h"
+
+#include <QCollator>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <utility>
+#include <vector>
+
+namespace window
+{
+
+namespace
+{
+
+bool holds(const Good &good, const QString &word)
+{
+    return std::any_of(good.fields.cbegin(), good.fields.cend(), [&](const QString &field) {
+        return field.contains(word, Qt::CaseInsensitive);
+    });
+}
+
+/// For each group, whether it is `group` or below it.
+std::vector<bool> groupsBelow(const Source &source, int group)
+{
+    std::vector<bool> isBelow(std::size_t(source.groups.size()));
+    for (int place = 0; place < source.groups.size(); ++place) {
+        const int parent = source.groups.at(place).parent;
+        isBelow[std::size_t(place)] =
+            place == group || (parent >= 0 && isBelow[std::size_t(parent)]);
+    }
+    return isBelow;
+}
+
+/// Rising or falling; what is equal stays in its order.
+template <typename Key, typename Less>
+void sortBy(std::vector<std::pair<Key, int>> &keyed, Qt::SortOrder order, const Less &less)
+{
+    std::stable_sort(keyed.begin(), keyed.end(), [&](const auto &a, const auto &b) {
+        return order == Qt::AscendingOrder ? less(a.first, b.first) : less(b.first, a.first);
+    });
+}
+
+/// The number that a field begins with, or the highest there could be.
+double numberIn(const QString &field)
+{
+    bool isNumber = false;
+    QString text = field.section(u';', 0, 0).trimmed();
+    const double number = text.replace(u',', u'.').toDouble(&isNumber);
+    return isNumber && !std::isnan(number) ? number : std::numeric_limits<double>::infinity();
+}
+
+template <typename Key, typename KeyOf, typename Less>
+void sortWith(QVector<int> &places, Qt::SortOrder order, const KeyOf &keyOf, const Less &less)
+{
+    std::vector<std::pair<Key, int>> keyed;
+    keyed.reserve(std::size_t(places.size()));
+    for (const int place : std::as_const(places))
+        keyed.emplace_back(keyOf(place), place);
+    sortBy(keyed, order, less);
+    std::transform(keyed.cbegin(), keyed.cend(), places.begin(),
+                   [](const auto &one) { return one.second; });
+}
+
+} // namespace
+
+QVector<int> arranged(const Source &source, const Arrangement &arrangement,
+                      const std::atomic_bool &isStopped)
+{
+    QVector<int> places;
+    const QStringList words = arrangement.text.simplified().split(u' ', Qt::SkipEmptyParts);
+    const std::vector<bool> isBelow =
+        arrangement.group >= 0 ? groupsBelow(source, arrangement.group) : std::vector<bool>();
+    for (int place = 0; place < source.goods.size() && !isStopped; ++place) {
+        const Good &good = source.goods.at(place);
+        if (arrangement.group >= 0 && (good.group < 0 || !isBelow[std::size_t(good.group)]))
+            continue;
+        if (std::all_of(words.cbegin(), words.cend(),
+                        [&](const QString &word) { return holds(good, word); }))
+            places.append(place);
+    }
+    if (!arrangement.sortedBy || isStopped)
+        return places;
+
+    const GoodField field = *arrangement.sortedBy;
+    const auto text = [&](int place) -> const QString & {
+        return source.goods.at(place).field(field);
+    };
+    if (field == GoodField::Prices || field == GoodField::Weight) {
+        sortWith<double>(
+            places, arrangement.order, [&](int place) { return numberIn(text(place)); },
+            std::less<>());
+    } else {
+        QCollator collator;
+        collator.setNumericMode(true);
+        constexpr int longest =
+            200; // Paths of groups can be far longer, and there is a key for each good.
+        sortWith<QCollatorSortKey>(
+            places, arrangement.order,
+            [&](int place) { return collator.sortKey(text(place).left(longest)); }, std::less<>());
+    }
+    return places;
+}
+
+} // namespace window

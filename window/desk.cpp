@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#include "window/desk.h"
+
+#include <utility>
+
+namespace window
+{
+
+Desk::~Desk()
+{
+    if (isOutdated)
+        *isOutdated = true;
+}
+
+Opened Desk::replace(Opened opened)
+{
+    if (isOutdated)
+        *isOutdated = true;
+    return {std::exchange(shown, opened.source), std::exchange(reader, std::move(opened.reader))};
+}
+
+void Desk::putAway(Opened opened)
+{
+    const auto old = std::make_shared<Opened>(std::move(opened));
+    background.run([old] { *old = {}; });
+}
+
+void Desk::arrange(const Arrangement &arrangement,
+                   std::function<void(const QVector<int> &places)> tell)
+{
+    if (isOutdated)
+        *isOutdated = true;
+    const auto isStopped = std::make_shared<std::atomic_bool>(false);
+    isOutdated = isStopped;
+    const auto places = std::make_shared<QVector<int>>();
+    background.run([=, source = shown] { *places = arranged(*source, arrangement, *isStopped); },
+                   [=, tell = std::move(tell)] {
+                       if (!*isStopped)
+                           tell(*places);
+                   });
+}
+
+void Desk::collect(const std::function<void(SourceReader &reader)> &collect,
+                   std::function<void(SourceReader &reader)> tell)
+{
+    if (!reader)
+        return;
+    const auto lent = std::make_shared<Opened>(Opened{shown, std::move(reader)});
+    background.run([=] { collect(*lent->reader); },
+                   [=, tell = std::move(tell)] {
+                       if (lent->source != shown) {
+                           putAway(std::move(*lent));
+                           return;
+                       }
+                       reader = std::move(lent->reader);
+                       tell(*reader);
+                   });
+}
+
+} // namespace window

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "window/arrangement.h"
+#include "window/background.h"
+#include "window/sourcereader.h"
+
+#include <functional>
+#include <memory>
+
+namespace window
+{
+
+/// The source that is shown, and what is done with it off the thread of the window.
+class Desk
+{
+public:
+    Desk() = default;
+    ~Desk();
+    Q_DISABLE_COPY(Desk)
+
+    /// Never null.
+    const std::shared_ptr<const Source> &source() const { return shown; }
+
+    /// Puts another source here. What comes back is for putAway(), once nothing shows it any more.
+    Opened replace(Opened opened);
+    void putAway(Opened opened);
+
+    /// The latest one counts: those before it are not told of any more.
+    void arrange(const Arrangement &arrangement,
+                 std::function<void(const QVector<int> &places)> tell);
+
+    /// Whether rows can be collected: there is a source, and none are being collected.
+    bool hasReader() const { return reader != nullptr; }
+
+    /// Has the reader collect rows there, and tells of it here, unless there is another source
+    /// then.
+    void collect(const std::function<void(SourceReader &reader)> &collect,
+                 std::function<void(SourceReader &reader)> tell);
+
+private:
+    std::shared_ptr<const Source> shown = std::make_shared<Source>();
+    std::unique_ptr<SourceReader> reader;
+    std::shared_ptr<std::atomic_bool> isOutdated; ///< the latest arrangement
+    Background background;
+};
+
+} // namespace window

@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: MIT
+//
+// A source as the window shows it: plain values, which no tree stands behind.
+#pragma once
+
+#include "export/observer.h"
+#include "survey/survey.h"
+
+#include <QString>
+#include <QVector>
+
+#include <array>
+#include <functional>
+
+namespace window
+{
+
+/// What there is to tell of a good or an offer.
+enum class GoodField {
+    Code,
+    Article,
+    Name,
+    Group, ///< its path
+    Unit,
+    Barcode,
+    Prices,
+    Maker,
+    Country,
+    Weight,
+    Picture, ///< its address
+};
+
+constexpr int goodFieldCount = 11;
+
+struct Good {
+    std::array<QString, goodFieldCount> fields;
+    QString description;
+    int group = -1;         ///< in Source::groups; -1: it is in none
+    bool isSoldOut = false; ///< it has no goods row
+
+    const QString &field(GoodField field) const { return fields[std::size_t(field)]; }
+    QString &field(GoodField field) { return fields[std::size_t(field)]; }
+};
+
+/// A value, by its key in the exchange file.
+struct KeyValue {
+    QString key;
+    QString value;
+};
+
+struct OrderLine {
+    QString code;
+    QString name;
+    QString unit;
+    QString quantity;
+    QString price;
+    QString sum;
+    bool isExported = true;
+};
+
+struct Order {
+    QString number;
+    QString date;
+    QString role; ///< of the partner
+    QString comment;
+    QString status;
+    QString sum;
+    QString requisites; ///< a line each
+    QString partner;    ///< the name, or else the code
+    QVector<KeyValue> partnerDetails;
+    QVector<OrderLine> lines;
+    bool isLost = false; ///< wholly or in part, by `loss`
+    exporter::Loss loss = exporter::Loss::NoPartner;
+};
+
+/// A group or category that goods are in, or one above it. It has no path: those of a long chain
+/// would be far larger than the source.
+struct Group {
+    QString name;
+    int parent = -1;
+    QVector<int> children;
+    int goods = 0; ///< in it and below it
+};
+
+struct Source {
+    QString path;
+    survey::Survey survey;
+    QVector<Good> goods;   ///< in the order of their export
+    QVector<Order> orders; ///< one for each document
+    QVector<Group> groups; ///< each behind its parent
+};
+
+} // namespace window

@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+//
+// Reads a source for the window. All of it walks over trees, and none of it belongs in the thread
+// of the window.
+#pragma once
+
+#include "reader/commxmlreader.h"
+#include "window/source.h"
+
+#include <QDomDocument>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace window
+{
+
+/// How goods get onto the clipboard.
+struct CopyOptions {
+    bool prefixRows = false;
+    bool withDescription = true;
+    bool markHtml = true;
+    bool extendedOffers = true;
+    std::optional<double> priceFactor = {};
+};
+
+/// The reader of a source that somebody else has loaded. It is used by one thread at a time.
+class SourceReader : public CommXmlReader, private exporter::Observer
+{
+public:
+    explicit SourceReader(const QDomDocument &tree);
+
+    /// Adds goods, orders and groups to `source`.
+    void describe(Source &source, bool purchase);
+
+    /// Fills goodsRows anew with the rows of the goods, or of `chosen` ones of Source::goods, which
+    /// are in rising order.
+    void collectRows(const CopyOptions &options, const QVector<int> *chosen = nullptr);
+
+    /// Fills goodsRows anew with those of an order, by its place in Source::orders.
+    void collectOrderRows(int order, bool withGoods);
+
+    bool hasRows() const { return !goodsRows.isEmpty(); }
+
+    void logMessage(const QString & /*text*/) override {}
+
+private:
+    void exported(const exporter::Item &item) override;
+    void leftOut(exporter::ItemKind kind, const QDomElement &element, exporter::Loss loss) override;
+    void doubted(const QDomElement &element, exporter::Doubt doubt) override;
+    void takePicture();
+    void keepChosenRows();
+
+    Source *described = nullptr; ///< what describe() fills
+    bool isSoldOut = false;      ///< the next offer
+
+    const QVector<int> *chosenGoods = nullptr; ///< what collectRows() keeps
+    int goodsSeen = 0;
+    int chosenSeen = 0;
+    int rowsKept = 0;
+};
+
+/// A source that is open: what is shown of it, and what more can be read of it.
+struct Opened {
+    std::shared_ptr<const Source> source; ///< with its survey alone where it could not be loaded
+    std::unique_ptr<SourceReader> reader; ///< null then
+};
+
+/// Loads and checks a source, and describes it. `goesOn` is asked as survey::Request::goesOn is;
+/// Survey::stopped tells that it said no.
+Opened openSource(const QString &path, bool purchase,
+                  const std::function<bool(qint64 done, qint64 total)> &goesOn);
+
+} // namespace window
