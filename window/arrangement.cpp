@@ -4,7 +4,6 @@
 #include <QCollator>
 
 #include <algorithm>
-#include <cmath>
 #include <limits>
 #include <utility>
 #include <vector>
@@ -41,15 +40,6 @@ void sortBy(std::vector<std::pair<Key, int>> &keyed, Qt::SortOrder order, const 
     std::stable_sort(keyed.begin(), keyed.end(), [&](const auto &a, const auto &b) {
         return order == Qt::AscendingOrder ? less(a.first, b.first) : less(b.first, a.first);
     });
-}
-
-/// The number that a field begins with, or the highest there could be.
-double numberIn(const QString &field)
-{
-    bool isNumber = false;
-    QString text = field.section(u';', 0, 0).trimmed();
-    const double number = text.replace(u',', u'.').toDouble(&isNumber);
-    return isNumber && !std::isnan(number) ? number : std::numeric_limits<double>::infinity();
 }
 
 template <typename Key, typename KeyOf, typename Less>
@@ -89,9 +79,10 @@ QVector<int> arranged(const Source &source, const Arrangement &arrangement,
         return source.goods.at(place).field(field);
     };
     if (field == GoodField::Prices || field == GoodField::Weight) {
+        constexpr double none = std::numeric_limits<double>::infinity(); // comes last
         sortWith<double>(
-            places, arrangement.order, [&](int place) { return numberIn(text(place)); },
-            std::less<>());
+            places, arrangement.order,
+            [&](int place) { return numberIn(text(place)).value_or(none); }, std::less<>());
     } else {
         QCollator collator;
         collator.setNumericMode(true);

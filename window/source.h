@@ -10,7 +10,7 @@
 #include <QVector>
 
 #include <array>
-#include <functional>
+#include <optional>
 
 namespace window
 {
@@ -88,6 +88,13 @@ struct Source {
     QVector<Good> goods;   ///< in the order of their export
     QVector<Order> orders; ///< one for each document
     QVector<Group> groups; ///< each behind its parent
+
+    /// How many goods have a first price below 1, 10, 100 and so on; the last are all others.
+    std::array<int, 8> goodsByPrice = {};
+    int goodsWithoutPrice = 0;
 };
+
+/// The number that a price or a weight begins with, if there is one.
+std::optional<double> numberIn(const QString &field);
 
 } // namespace window

@@ -7,7 +7,6 @@
 
 #include <QHash>
 
-#include <algorithm>
 #include <new>
 #include <utility>
 
@@ -140,6 +139,22 @@ private:
     QHash<std::pair<int, QString>, int> children;
 };
 
+void countPrices(Source &source)
+{
+    for (const Good &good : source.goods) {
+        const std::optional<double> price = numberIn(good.field(GoodField::Prices));
+        if (!price) {
+            ++source.goodsWithoutPrice;
+            continue;
+        }
+        std::size_t range = 0;
+        for (double limit = 1; *price >= limit && range < source.goodsByPrice.size() - 1;
+             limit *= 10)
+            ++range;
+        ++source.goodsByPrice[range];
+    }
+}
+
 /// Finds the groups of all goods.
 void findGroups(Source &source)
 {
@@ -183,6 +198,7 @@ void SourceReader::describe(Source &source, bool purchase)
     goodsRows.clear();
     described = nullptr;
     findGroups(source);
+    countPrices(source);
 }
 
 void SourceReader::collectRows(const CopyOptions &options, const QVector<int> *chosen)

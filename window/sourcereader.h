@@ -41,7 +41,8 @@ public:
     /// Fills goodsRows anew with those of an order, by its place in Source::orders.
     void collectOrderRows(int order, bool withGoods);
 
-    bool hasRows() const { return !goodsRows.isEmpty(); }
+    int rowCount() const { return int(goodsRows.size()); }
+    void forgetRows() { goodsRows.clear(); }
 
     void logMessage(const QString & /*text*/) override {}
 

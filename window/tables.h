@@ -23,7 +23,6 @@ public:
 
     /// In Source::goods.
     int placeAt(int row) const { return places.at(row); }
-    int rowOf(int place) const { return int(places.indexOf(place)); }
 
 private:
     const Good &good(int row) const { return source->goods.at(places.at(row)); }

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "window/tables.h"
+
+#include <QWidget>
+
+#include <functional>
+
+class QLabel;
+class QPlainTextEdit;
+class QSettings;
+class QSplitter;
+class QTableView;
+
+namespace window
+{
+
+/// The documents, with the lines and the partner of the current one.
+class OrdersPage : public QWidget
+{
+public:
+    OrdersPage();
+
+    /// Told when another order is chosen.
+    std::function<void()> changed;
+
+    void show(const SourcePointer &newSource);
+
+    /// False if there is no order with this number.
+    bool chooseNumber(const QString &number);
+
+    /// False if no order has a line with this code.
+    bool chooseLine(const QString &code);
+
+    /// In Source::orders; -1 if there is none.
+    int current() const;
+
+    void save(QSettings &settings) const;
+    void restore(const QSettings &settings);
+
+private:
+    void showCurrent();
+
+    SourcePointer source = std::make_shared<Source>();
+    OrdersModel orders;
+    LinesModel lines;
+    DetailsModel details;
+    QTableView *ordersView;
+    QTableView *linesView;
+    QTableView *detailsView;
+    QPlainTextEdit *requisites;
+    QLabel *reason;
+    QSplitter *rows;
+    QSplitter *columns;
+};
+
+} // namespace window

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QTextBrowser>
+
+namespace window
+{
+
+/// Shows a text of a source, be it plain or HTML. It fetches nothing and leads nowhere.
+class TextView : public QTextBrowser
+{
+public:
+    explicit TextView(QWidget *parent = nullptr);
+
+    void showText(const QString &text);
+
+    QVariant loadResource(int /*type*/, const QUrl & /*name*/) override { return {}; }
+};
+
+} // namespace window

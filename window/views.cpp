@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#include "window/views.h"
+
+#include <QHeaderView>
+
+namespace window
+{
+
+QTableView *tableView(QAbstractItemModel &model, const QString &accessibleName)
+{
+    auto *const view = new QTableView;
+    view->setModel(&model);
+    view->setAccessibleName(accessibleName);
+    view->setSelectionBehavior(QAbstractItemView::SelectRows);
+    view->setTabKeyNavigation(false); // which is for the next view
+    view->setAlternatingRowColors(true);
+    view->setWordWrap(false);
+    view->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    view->verticalHeader()->hide();
+    view->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    view->verticalHeader()->setDefaultSectionSize(view->fontMetrics().height() * 3 / 2);
+    view->horizontalHeader()->setSectionsMovable(true);
+    view->horizontalHeader()->setStretchLastSection(true);
+    view->horizontalHeader()->setHighlightSections(false);
+    return view;
+}
+
+int currentRow(const QAbstractItemView &view)
+{
+    return view.currentIndex().isValid() ? view.currentIndex().row() : -1;
+}
+
+void save(QSettings &settings, const QString &name, const QSplitter &splitter)
+{
+    settings.setValue(name, splitter.saveState());
+}
+
+void save(QSettings &settings, const QString &name, const QTableView &table)
+{
+    settings.setValue(name, table.horizontalHeader()->saveState());
+}
+
+void restore(const QSettings &settings, const QString &name, QSplitter &splitter)
+{
+    splitter.restoreState(settings.value(name).toByteArray());
+}
+
+void restore(const QSettings &settings, const QString &name, QTableView &table)
+{
+    table.horizontalHeader()->restoreState(settings.value(name).toByteArray());
+}
+
+} // namespace window
