@@ -62,6 +62,15 @@ Run::~Run() = default;
 bool Run::exec()
 {
     const Interrupts interrupts([] { QCoreApplication::quit(); });
+    done = [] { QCoreApplication::quit(); };
+    begin();
+    QCoreApplication::exec();
+    stop();
+    return Interrupts::exitCode() == 0;
+}
+
+void Run::begin()
+{
     workers.next = [this] { return nextOrder(); };
     workers.progressed = [this](int id, const Progress &progress) {
         if (progress.total > 0)
@@ -73,10 +82,12 @@ bool Run::exec()
     retry.setInterval(pause);
     QObject::connect(&retry, &QTimer::timeout, &retry, [this] { workers.work(); });
     workers.work();
-    QCoreApplication::exec();
+}
+
+void Run::stop()
+{
     workers.stop();
     jobs.clear(); // and with them the new files
-    return Interrupts::exitCode() == 0;
 }
 
 /// The next source that a worker can take.
@@ -235,17 +246,17 @@ void Run::finish(int id)
         jobs[told].isOver = true;
     }
     showProgress();
-    if (told == jobs.size())
-        QCoreApplication::quit();
+    if (told == jobs.size() && done)
+        done();
 }
 
 void Run::showProgress()
 {
     if (!progressed || told == jobs.size())
         return;
-    auto done = double(told);
-    for (std::size_t i = told; i < started; ++i)
-        done += jobs[i].isOver ? 1 : jobs[i].share;
+    double done = 0;
+    for (const Running &running : jobs)
+        done += running.isOver ? 1 : running.share;
     progressed(done / double(jobs.size()), jobs[told].job.source);
 }
 

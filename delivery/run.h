@@ -38,7 +38,7 @@ struct RunOptions {
 class Run
 {
 public:
-    Run(RunOptions given, std::vector<Job> planned);
+    Run(RunOptions options, std::vector<Job> jobs);
     ~Run();
     Q_DISABLE_COPY(Run)
 
@@ -48,8 +48,17 @@ public:
     /// Told how much is done of all, from 0 to 1, and what is being read.
     std::function<void(double share, const QString &source)> progressed;
 
-    /// Comes back when all is done, or with false when an interrupt has come: whatever was not told
-    /// by then did not happen. It has the event loop of the application.
+    /// Told when all is done.
+    std::function<void()> done;
+
+    /// Begins; all of it happens in the event loop of this thread.
+    void begin();
+
+    /// Ends it at once: whatever was not told by then did not happen.
+    void stop();
+
+    /// Begins, and comes back when all is done, or with false when an interrupt has come: whatever
+    /// was not told by then did not happen. It has the event loop of the application.
     bool exec();
 
 private:
