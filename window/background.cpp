@@ -6,34 +6,45 @@
 namespace window
 {
 
-Background::Background()
-{
-    // What a source may be nested takes as much as the first thread of a process has.
-    constexpr uint stack = 8U << 20U;
-    thread.setStackSize(stack);
-    place.moveToThread(&thread);
-    thread.start();
-}
-
 Background::~Background()
 {
-    thread.requestInterruption();
-    thread.quit();
-    thread.wait();
+    {
+        const std::lock_guard<std::mutex> lock(mutex);
+        isEnding = true;
+    }
+    condition.notify_one();
+    if (thread.joinable())
+        thread.join();
 }
 
 void Background::run(std::function<void()> work, std::function<void()> done)
 {
-    QMetaObject::invokeMethod(
-        &place,
-        [this, work = std::move(work), done = std::move(done)] {
-            if (thread.isInterruptionRequested())
+    {
+        const std::lock_guard<std::mutex> lock(mutex);
+        pieces.push_back({std::move(work), std::move(done)});
+    }
+    if (!thread.joinable())
+        thread = std::thread([this] { workOff(); });
+    condition.notify_one();
+}
+
+void Background::workOff()
+{
+    while (true) {
+        Piece piece;
+        {
+            std::unique_lock<std::mutex> lock(mutex);
+            condition.wait(lock, [this] { return isEnding || !pieces.empty(); });
+            if (isEnding)
                 return;
-            work();
-            if (done)
-                QMetaObject::invokeMethod(this, done, Qt::QueuedConnection);
-        },
-        Qt::QueuedConnection);
+            piece = std::move(pieces.front());
+            pieces.pop_front();
+        }
+        piece.work();
+        piece.work = {}; // what it holds is not for the other thread
+        if (piece.done)
+            QMetaObject::invokeMethod(this, std::move(piece.done), Qt::QueuedConnection);
+    }
 }
 
 } // namespace window

@@ -26,7 +26,7 @@ CopyDialog::CopyDialog(const CopyOptions &options, QWidget *parent)
     setWindowTitle(Words::tr("How to copy goods"));
     priceFactor->setAccessibleName(Words::tr("Factor of prices"));
     priceFactor->setDecimals(4);
-    priceFactor->setRange(0.0001, 1'000'000);
+    priceFactor->setRange(0.0001, 1000000);
     prefixRows->setChecked(options.prefixRows);
     withDescription->setChecked(options.withDescription);
     markHtml->setChecked(options.markHtml);

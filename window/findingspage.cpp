@@ -4,7 +4,6 @@
 #include "window/views.h"
 #include "words/language.h"
 
-#include <QShortcut>
 #include <QVBoxLayout>
 
 using words::Words;
@@ -34,10 +33,7 @@ FindingsPage::FindingsPage()
             activated(findings.finding(index.row()));
     };
     connect(findingsView, &QTableView::clicked, this, activate);
-    const auto *const enter =
-        new QShortcut(Qt::Key_Return, findingsView, nullptr, nullptr, Qt::WidgetShortcut);
-    connect(enter, &QShortcut::activated, this,
-            [this, activate] { activate(findingsView->currentIndex()); });
+    connect(findingsView, &QTableView::activated, this, activate); // by Enter
 }
 
 void FindingsPage::show(const SourcePointer &newSource)

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "window/mainwindow.h"
+#include "window/worker.h"
 #include "words/language.h"
 
 #include <QApplication>
@@ -22,6 +23,8 @@ static void translateToolkit(QTranslator &translator)
 
 int main(int argc, char *argv[])
 {
+    if (window::isWorker(argc, argv))
+        return window::beWorker(argc, argv);
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);

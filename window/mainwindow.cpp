@@ -40,6 +40,22 @@ namespace window
 
 static const QString recentKey = QStringLiteral("recent");
 
+/// The errors of a source, each with its place.
+static QStringList errorsOf(const survey::Survey &survey)
+{
+    QStringList lines;
+    for (const survey::Finding &finding : survey.findings) {
+        if (finding.level != survey::Level::Error)
+            continue;
+        const QString place = placeInWords(finding.position);
+        const QString sentence = words::sentence(finding);
+        lines.append(place.isEmpty() ? sentence : place + QLatin1String(": ") + sentence);
+    }
+    if (lines.isEmpty() && survey.outOfMemory)
+        lines.append(Words::tr("memory ran out"));
+    return lines;
+}
+
 MainWindow::FileState MainWindow::FileState::of(const QString &path)
 {
     const QFileInfo info(path);
@@ -103,11 +119,11 @@ MainWindow::~MainWindow()
     delete takeCentralWidget();
 }
 
-QAction *MainWindow::add(QMenu *menu, const char *name, const QString &text,
+QAction *MainWindow::add(QMenu *menu, const QString &name, const QString &text,
                          const QKeySequence &key, const std::function<void()> &triggered)
 {
     QAction *const action = menu->addAction(text);
-    action->setObjectName(QLatin1String(name));
+    action->setObjectName(name);
     action->setShortcut(key);
     connect(action, &QAction::triggered, this, [triggered] { triggered(); });
     return action;
@@ -123,39 +139,43 @@ void MainWindow::addMenus()
 void MainWindow::addFileMenu()
 {
     QMenu *const menu = menuBar()->addMenu(Words::tr("&File"));
-    add(menu, "open", Words::tr("&Open..."), QKeySequence::Open, [this] { askForSource(); });
+    add(menu, QStringLiteral("open"), Words::tr("&Open..."), QKeySequence::Open,
+        [this] { askForSource(); });
     recentMenu = menu->addMenu(Words::tr("Open &recent"));
     connect(recentMenu, &QMenu::aboutToShow, this, [this] { fillRecent(); });
-    readAgainAction =
-        add(menu, "readAgain", Words::tr("Read &again"), Qt::Key_F5, [this] { readAgain(); });
-    stopAction = add(menu, "stop", Words::tr("&Stop"), Qt::Key_Escape, [this] { stop(); });
+    readAgainAction = add(menu, QStringLiteral("readAgain"), Words::tr("Read &again"), Qt::Key_F5,
+                          [this] { readAgain(); });
+    stopAction =
+        add(menu, QStringLiteral("stop"), Words::tr("&Stop"), Qt::Key_Escape, [this] { stop(); });
     menu->addSeparator();
-    purchaseAction = add(menu, "purchase", Words::tr("Documents are &purchases"),
+    purchaseAction = add(menu, QStringLiteral("purchase"), Words::tr("Documents are &purchases"),
                          Qt::CTRL | Qt::Key_P, [this] { readAgain(); });
     purchaseAction->setCheckable(true);
-    convertAction = add(menu, "convert", Words::tr("&Convert..."), Qt::CTRL | Qt::Key_E,
-                        [this] { askForDestination(); });
-    saveFindingsAction = add(menu, "saveFindings", Words::tr("Save &findings as a table..."),
-                             QKeySequence::Save, [this] { saveFindings(); });
+    convertAction = add(menu, QStringLiteral("convert"), Words::tr("&Convert..."),
+                        Qt::CTRL | Qt::Key_E, [this] { askForDestination(); });
+    saveFindingsAction =
+        add(menu, QStringLiteral("saveFindings"), Words::tr("Save &findings as a table..."),
+            QKeySequence::Save, [this] { saveFindings(); });
     menu->addSeparator();
-    add(menu, "quit", Words::tr("&Quit"), Qt::CTRL | Qt::Key_Q, [this] { close(); });
+    add(menu, QStringLiteral("quit"), Words::tr("&Quit"), Qt::CTRL | Qt::Key_Q,
+        [this] { close(); });
 }
 
 void MainWindow::addCopyMenu()
 {
     QMenu *const menu = menuBar()->addMenu(Words::tr("&Copy"));
     constexpr auto keys = Qt::CTRL | Qt::SHIFT;
-    copyChosenAction = add(menu, "copyChosen", Words::tr("&Chosen goods"), keys | Qt::Key_C,
-                           [this] { copyGoods(/*onlyChosen=*/true); });
-    copyAllAction = add(menu, "copyAll", Words::tr("&All goods"), keys | Qt::Key_A,
+    copyChosenAction = add(menu, QStringLiteral("copyChosen"), Words::tr("&Chosen goods"),
+                           keys | Qt::Key_C, [this] { copyGoods(/*onlyChosen=*/true); });
+    copyAllAction = add(menu, QStringLiteral("copyAll"), Words::tr("&All goods"), keys | Qt::Key_A,
                         [this] { copyGoods(/*onlyChosen=*/false); });
-    add(menu, "howToCopy", Words::tr("&How to copy goods..."), keys | Qt::Key_H,
+    add(menu, QStringLiteral("howToCopy"), Words::tr("&How to copy goods..."), keys | Qt::Key_H,
         [this] { askHowToCopy(); });
     menu->addSeparator();
-    copyOrderAction = add(menu, "copyOrder", Words::tr("&Lines of the document"), keys | Qt::Key_L,
-                          [this] { copyOrder(); });
-    withGoodsAction =
-        add(menu, "withGoods", Words::tr("Lines with &goods"), keys | Qt::Key_G, [] {});
+    copyOrderAction = add(menu, QStringLiteral("copyOrder"), Words::tr("&Lines of the document"),
+                          keys | Qt::Key_L, [this] { copyOrder(); });
+    withGoodsAction = add(menu, QStringLiteral("withGoods"), Words::tr("Lines with &goods"),
+                          keys | Qt::Key_G, [] {});
     withGoodsAction->setCheckable(true);
     withGoodsAction->setChecked(true);
 }
@@ -164,14 +184,15 @@ void MainWindow::addViewMenu()
 {
     QMenu *const menu = menuBar()->addMenu(Words::tr("&View"));
     for (int page = 0; page < pages->count(); ++page)
-        add(menu, "page", pages->tabText(page), QStringLiteral("Ctrl+%1").arg(page + 1),
+        add(menu, QStringLiteral("page%1").arg(page + 1), pages->tabText(page),
+            QStringLiteral("Ctrl+%1").arg(page + 1),
             [this, page] { pages->setCurrentIndex(page); });
     menu->addSeparator();
-    add(menu, "filter", Words::tr("&Filter"), QKeySequence::Find, [this] {
+    add(menu, QStringLiteral("filter"), Words::tr("&Filter"), QKeySequence::Find, [this] {
         pages->setCurrentWidget(goods);
         goods->filter();
     });
-    add(menu, "sort", Words::tr("&Sort by the current column"), Qt::Key_F6, [this] {
+    add(menu, QStringLiteral("sort"), Words::tr("&Sort by the current column"), Qt::Key_F6, [this] {
         pages->setCurrentWidget(goods);
         goods->sortByCurrentColumn();
     });
@@ -252,6 +273,9 @@ void MainWindow::stop()
     if (loader.isLoading())
         tell(Words::tr("The reading was stopped."));
     loader.stop();
+    if (conversion)
+        tell(Words::tr("The conversion was stopped; the destination is as it was."));
+    conversion.reset();
     showProgress();
     showState();
 }
@@ -289,18 +313,9 @@ void MainWindow::showOpened(Opened opened)
 /// Why a source could not be opened, or gives nothing.
 void MainWindow::tellErrors(const Source &source)
 {
-    QStringList lines;
-    for (const survey::Finding &finding : source.survey.findings) {
-        if (finding.level != survey::Level::Error)
-            continue;
-        const QString place = placeInWords(finding.position);
-        const QString sentence = words::sentence(finding);
-        lines.append(place.isEmpty() ? sentence : place + QLatin1String(": ") + sentence);
-    }
-    if (lines.isEmpty() && source.survey.outOfMemory)
-        lines.append(Words::tr("memory ran out"));
+    const QStringList lines = errorsOf(source.survey);
     if (!lines.isEmpty())
-        tell(QDir::toNativeSeparators(source.path) + QLatin1String("\n") + lines.join(u'\n'));
+        tell(QDir::toNativeSeparators(source.path) + u'\n' + lines.join(u'\n'));
 }
 
 void MainWindow::watch(const QString &path)
@@ -367,7 +382,52 @@ void MainWindow::askForDestination()
         convert(path);
 }
 
-void MainWindow::convert(const QString & /*destination*/) {}
+void MainWindow::convert(const QString &destination)
+{
+    infoBar->hide();
+    delivery::RunOptions options;
+    options.request.purchase = purchaseAction->isChecked();
+    options.jobs = 1;
+    std::vector<delivery::Job> jobs = {{desk.source()->path, destination, {}}};
+    conversion = std::make_unique<delivery::Run>(options, std::move(jobs));
+    converted = 0;
+    conversion->tell = [this](const delivery::Outcome &outcome) { tellOutcome(outcome); };
+    conversion->progressed = [this](double share, const QString &) { converted = share; };
+    conversion->done = [this] {
+        // It is in the middle of telling so.
+        QTimer::singleShot(0, this, [this] {
+            conversion.reset();
+            showProgress();
+            showState();
+        });
+    };
+    conversion->begin();
+    showProgress();
+    showState();
+}
+
+void MainWindow::tellOutcome(const delivery::Outcome &outcome)
+{
+    using File = delivery::Outcome::File;
+    const QString file = QDir::toNativeSeparators(outcome.destination);
+    QStringList lines;
+    const QString reason = words::sentence(outcome.reason);
+    if (!reason.isEmpty() || outcome.exitCode == delivery::NotRead) {
+        lines.append(Words::tr("%1 was not written.").arg(file));
+        if (!reason.isEmpty())
+            lines.append(reason);
+        lines += errorsOf(outcome.survey);
+    } else {
+        lines.append((outcome.file == File::Created    ? Words::tr("%1 was created: %2.")
+                      : outcome.file == File::Replaced ? Words::tr("%1 was replaced: %2.")
+                                                       : Words::tr("%1 has it all already: %2."))
+                         .arg(file, words::countsInWords(outcome.survey.counts)));
+        const QString levels = words::levelsInWords(outcome.survey);
+        if (!levels.isEmpty())
+            lines.append(levels);
+    }
+    tell(lines.join(u'\n'));
+}
 
 void MainWindow::askHowToCopy()
 {
@@ -413,13 +473,13 @@ void MainWindow::putOnClipboard(SourceReader &reader)
 
 void MainWindow::showProgress()
 {
-    const bool isBusy = loader.isLoading();
+    const bool isBusy = loader.isLoading() || conversion;
     if (isBusy != progressTimer.isActive())
         isBusy ? progressTimer.start() : progressTimer.stop();
     progress->setVisible(isBusy);
     stopButton->setVisible(isBusy);
     stopAction->setEnabled(isBusy);
-    const double share = loader.share();
+    const double share = loader.isLoading() ? loader.share() : converted;
     constexpr int whole = 100;
     progress->setRange(0, share < 0 || share >= 1 ? 0 : whole); // without an end, it only moves
     if (progress->maximum() > 0)
@@ -431,7 +491,7 @@ void MainWindow::showState()
     const Source &source = *desk.source();
     const bool isOpen = !source.path.isEmpty();
     readAgainAction->setEnabled(isOpen);
-    convertAction->setEnabled(isOpen);
+    convertAction->setEnabled(isOpen && !conversion);
     saveFindingsAction->setEnabled(isOpen);
     copyAllAction->setEnabled(desk.hasReader() && !source.goods.isEmpty());
     copyChosenAction->setEnabled(desk.hasReader() &&
@@ -441,6 +501,8 @@ void MainWindow::showState()
     QStringList parts;
     if (loader.isLoading())
         parts.append(Words::tr("reading %1").arg(QFileInfo(loader.path()).fileName()));
+    if (conversion)
+        parts.append(Words::tr("converting"));
     if (isOpen) {
         parts.append(words::countsInWords(source.survey.counts));
         const QString levels = words::levelsInWords(source.survey);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "delivery/run.h"
 #include "window/desk.h"
 #include "window/loader.h"
 
@@ -57,7 +58,7 @@ private:
         }
     };
 
-    QAction *add(QMenu *menu, const char *name, const QString &text, const QKeySequence &key,
+    QAction *add(QMenu *menu, const QString &name, const QString &text, const QKeySequence &key,
                  const std::function<void()> &triggered);
     void addMenus();
     void addFileMenu();
@@ -80,6 +81,7 @@ private:
     void showFinding(const survey::Finding &finding);
     void saveFindings();
     void askForDestination();
+    void tellOutcome(const delivery::Outcome &outcome);
     void askHowToCopy();
     void copyGoods(bool onlyChosen);
     void copyOrder();
@@ -94,6 +96,8 @@ private:
     Loader loader;
     Desk desk;
     CopyOptions copying;
+    std::unique_ptr<delivery::Run> conversion; ///< null where none is going on
+    double converted = 0;                      ///< how much of its source is read
     QFileSystemWatcher watcher;
     QTimer changeTimer;
     QTimer progressTimer;

@@ -13,7 +13,7 @@ TextView::TextView(QWidget *parent) : QTextBrowser(parent)
 /// Whether it is laid out in no time. Tables within tables take many times longer with each level.
 static bool isSmallHtml(const QString &text)
 {
-    constexpr int longest = 100'000;
+    constexpr int longest = 100000;
     constexpr int mostTables = 10;
     return text.size() <= longest && Qt::mightBeRichText(text) &&
            text.count(QLatin1String("<table"), Qt::CaseInsensitive) <= mostTables;
@@ -21,7 +21,7 @@ static bool isSmallHtml(const QString &text)
 
 void TextView::showText(const QString &text)
 {
-    constexpr int longest = 200'000;
+    constexpr int longest = 200000;
     if (isSmallHtml(text))
         setHtml(text);
     else

@@ -1,25 +1,12 @@
 // SPDX-License-Identifier: MIT
+#include "pasted.h"
 #include "probe.h"
-
-#include <QClipboard>
-#include <QGuiApplication>
 
 class ClipboardTest : public QObject
 {
     Q_OBJECT
 
     static inline QStringList printed;
-
-    /// What is on the clipboard; on an X server another program is asked.
-    static QString pasted()
-    {
-        if (QGuiApplication::platformName() != "xcb")
-            return QGuiApplication::clipboard()->text();
-        QProcess other;
-        QSignalSpy finished(&other, qOverload<int, QProcess::ExitStatus>(&QProcess::finished));
-        other.start("xclip", {"-out", "-selection", "clipboard"});
-        return finished.wait() ? QString::fromUtf8(other.readAllStandardOutput()) : "no answer";
-    }
 
 private slots:
     void rows()
