@@ -35,6 +35,7 @@ GoodsPage::GoodsPage(Desk &desk)
     groupsView->setUniformRowHeights(true);
     groupsView->header()->setStretchLastSection(false);
     groupsView->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    groupsView->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
     description->setAccessibleName(Words::tr("Description"));
     description->setPlaceholderText(Words::tr("No description"));
     goodsView->horizontalHeader()->setSortIndicatorShown(true);

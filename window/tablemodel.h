@@ -17,6 +17,7 @@ public:
     struct Column {
         const char *heading; ///< in the words of the code
         std::function<QString(int row)> text;
+        int width = 12;        ///< at first, in characters
         bool isNumber = false; ///< stands at the right
     };
 
@@ -27,6 +28,8 @@ public:
 
     /// A cell as a program gets it: whole, whatever is in it.
     QString text(int row, int column) const { return columns.at(column).text(row); }
+
+    int widthOf(int column) const { return columns.at(column).width; }
 
     int rowCount(const QModelIndex &parent = {}) const override;
     int columnCount(const QModelIndex &parent = {}) const override;

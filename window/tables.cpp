@@ -20,17 +20,17 @@ GoodsModel::GoodsModel()
               return [this, field](int row) { return good(row).field(field); };
           };
           return QVector<Column>{
-              {QT_TRANSLATE_NOOP("Words", "Code"), field(GoodField::Code)},
-              {QT_TRANSLATE_NOOP("Words", "Article"), field(GoodField::Article)},
-              {QT_TRANSLATE_NOOP("Words", "Name"), field(GoodField::Name)},
-              {QT_TRANSLATE_NOOP("Words", "Group"), field(GoodField::Group)},
-              {QT_TRANSLATE_NOOP("Words", "Unit"), field(GoodField::Unit)},
-              {QT_TRANSLATE_NOOP("Words", "Barcode"), field(GoodField::Barcode)},
-              {QT_TRANSLATE_NOOP("Words", "Prices"), field(GoodField::Prices), true},
-              {QT_TRANSLATE_NOOP("Words", "Maker"), field(GoodField::Maker)},
+              {QT_TRANSLATE_NOOP("Words", "Code"), field(GoodField::Code), 20},
+              {QT_TRANSLATE_NOOP("Words", "Article"), field(GoodField::Article), 14},
+              {QT_TRANSLATE_NOOP("Words", "Name"), field(GoodField::Name), 40},
+              {QT_TRANSLATE_NOOP("Words", "Group"), field(GoodField::Group), 30},
+              {QT_TRANSLATE_NOOP("Words", "Unit"), field(GoodField::Unit), 8},
+              {QT_TRANSLATE_NOOP("Words", "Barcode"), field(GoodField::Barcode), 16},
+              {QT_TRANSLATE_NOOP("Words", "Prices"), field(GoodField::Prices), 16, true},
+              {QT_TRANSLATE_NOOP("Words", "Maker"), field(GoodField::Maker), 16},
               {QT_TRANSLATE_NOOP("Words", "Country"), field(GoodField::Country)},
-              {QT_TRANSLATE_NOOP("Words", "Weight"), field(GoodField::Weight), true},
-              {QT_TRANSLATE_NOOP("Words", "Picture"), field(GoodField::Picture)},
+              {QT_TRANSLATE_NOOP("Words", "Weight"), field(GoodField::Weight), 12, true},
+              {QT_TRANSLATE_NOOP("Words", "Picture"), field(GoodField::Picture), 30},
               {QT_TRANSLATE_NOOP("Words", "Note"),
                [this](int row) { return good(row).isSoldOut ? Words::tr("sold out") : QString(); }},
           };
@@ -73,13 +73,16 @@ OrdersModel::OrdersModel()
     : TableModel({
           {QT_TRANSLATE_NOOP("Words", "Number"), [this](int row) { return order(row).number; }},
           {QT_TRANSLATE_NOOP("Words", "Date"), [this](int row) { return order(row).date; }},
-          {QT_TRANSLATE_NOOP("Words", "Partner"), [this](int row) { return order(row).partner; }},
-          {QT_TRANSLATE_NOOP("Words", "Role"), [this](int row) { return order(row).role; }},
-          {QT_TRANSLATE_NOOP("Words", "Comment"), [this](int row) { return order(row).comment; }},
+          {QT_TRANSLATE_NOOP("Words", "Partner"), [this](int row) { return order(row).partner; },
+           30},
+          {QT_TRANSLATE_NOOP("Words", "Role"), [this](int row) { return order(row).role; }, 14},
+          {QT_TRANSLATE_NOOP("Words", "Comment"), [this](int row) { return order(row).comment; },
+           30},
           {QT_TRANSLATE_NOOP("Words", "Status"), [this](int row) { return order(row).status; }},
-          {QT_TRANSLATE_NOOP("Words", "Sum"), [this](int row) { return order(row).sum; }, true},
+          {QT_TRANSLATE_NOOP("Words", "Sum"), [this](int row) { return order(row).sum; }, 12, true},
           {QT_TRANSLATE_NOOP("Words", "Not exported"),
-           [this](int row) { return order(row).isLost ? sentence(order(row).loss) : QString(); }},
+           [this](int row) { return order(row).isLost ? sentence(order(row).loss) : QString(); },
+           60},
       })
 {
 }
@@ -92,18 +95,20 @@ void OrdersModel::show(SourcePointer newSource)
 
 LinesModel::LinesModel()
     : TableModel({
-          {QT_TRANSLATE_NOOP("Words", "Code"), [this](int row) { return lines.at(row).code; }},
-          {QT_TRANSLATE_NOOP("Words", "Name"), [this](int row) { return lines.at(row).name; }},
+          {QT_TRANSLATE_NOOP("Words", "Code"), [this](int row) { return lines.at(row).code; }, 20},
+          {QT_TRANSLATE_NOOP("Words", "Name"), [this](int row) { return lines.at(row).name; }, 40},
           {QT_TRANSLATE_NOOP("Words", "Quantity"),
-           [this](int row) { return lines.at(row).quantity; }, true},
-          {QT_TRANSLATE_NOOP("Words", "Unit"), [this](int row) { return lines.at(row).unit; }},
-          {QT_TRANSLATE_NOOP("Words", "Price"), [this](int row) { return lines.at(row).price; },
+           [this](int row) { return lines.at(row).quantity; }, 12, true},
+          {QT_TRANSLATE_NOOP("Words", "Unit"), [this](int row) { return lines.at(row).unit; }, 8},
+          {QT_TRANSLATE_NOOP("Words", "Price"), [this](int row) { return lines.at(row).price; }, 12,
            true},
-          {QT_TRANSLATE_NOOP("Words", "Sum"), [this](int row) { return lines.at(row).sum; }, true},
+          {QT_TRANSLATE_NOOP("Words", "Sum"), [this](int row) { return lines.at(row).sum; }, 12,
+           true},
           {QT_TRANSLATE_NOOP("Words", "Not exported"),
            [this](int row) {
                return lines.at(row).isExported ? QString() : sentence(exporter::Loss::NoCode);
-           }},
+           },
+           60},
       })
 {
 }
@@ -139,7 +144,7 @@ static QString keyInWords(const QString &key)
 DetailsModel::DetailsModel()
     : TableModel({
           {QT_TRANSLATE_NOOP("Words", "Detail"),
-           [this](int row) { return keyInWords(details.at(row).key); }},
+           [this](int row) { return keyInWords(details.at(row).key); }, 18},
           {QT_TRANSLATE_NOOP("Words", "Value"), [this](int row) { return details.at(row).value; }},
       })
 {
@@ -157,12 +162,13 @@ KindsModel::KindsModel()
                return row == 0 ? QString() : words::levelWord(first.at(row - 1).level);
            }},
           {QT_TRANSLATE_NOOP("Words", "Number"),
-           [this](int row) { return QString::number(row == 0 ? count : counts.at(row - 1)); },
+           [this](int row) { return QString::number(row == 0 ? count : counts.at(row - 1)); }, 12,
            true},
           {QT_TRANSLATE_NOOP("Words", "Finding"),
            [this](int row) {
                return row == 0 ? Words::tr("All findings") : words::sentence(first.at(row - 1));
-           }},
+           },
+           80},
       })
 {
 }
@@ -204,11 +210,11 @@ FindingsModel::FindingsModel()
           {QT_TRANSLATE_NOOP("Words", "Level"),
            [this](int row) { return words::levelWord(finding(row).level); }},
           {QT_TRANSLATE_NOOP("Words", "Place"),
-           [this](int row) { return placeInWords(finding(row).position); }},
+           [this](int row) { return placeInWords(finding(row).position); }, 22},
           {QT_TRANSLATE_NOOP("Words", "Good or order"),
-           [this](int row) { return finding(row).code; }},
+           [this](int row) { return finding(row).code; }, 30},
           {QT_TRANSLATE_NOOP("Words", "Finding"),
-           [this](int row) { return words::sentence(finding(row)); }},
+           [this](int row) { return words::sentence(finding(row)); }, 80},
       })
 {
 }

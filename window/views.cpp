@@ -6,7 +6,7 @@
 namespace window
 {
 
-QTableView *tableView(QAbstractItemModel &model, const QString &accessibleName)
+QTableView *tableView(TableModel &model, const QString &accessibleName)
 {
     auto *const view = new QTableView;
     view->setModel(&model);
@@ -22,6 +22,9 @@ QTableView *tableView(QAbstractItemModel &model, const QString &accessibleName)
     view->horizontalHeader()->setSectionsMovable(true);
     view->horizontalHeader()->setStretchLastSection(true);
     view->horizontalHeader()->setHighlightSections(false);
+    for (int column = 0; column < model.columnCount(); ++column)
+        view->setColumnWidth(column,
+                             model.widthOf(column) * view->fontMetrics().averageCharWidth());
     return view;
 }
 

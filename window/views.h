@@ -3,6 +3,8 @@
 // What the views of all pages share.
 #pragma once
 
+#include "window/tablemodel.h"
+
 #include <QAbstractItemView>
 #include <QSettings>
 #include <QSplitter>
@@ -12,7 +14,7 @@ namespace window
 {
 
 /// A table of rows, for `model`, which outlives it.
-QTableView *tableView(QAbstractItemModel &model, const QString &accessibleName);
+QTableView *tableView(TableModel &model, const QString &accessibleName);
 
 /// The row that the keyboard is at; -1 if there is none.
 int currentRow(const QAbstractItemView &view);
