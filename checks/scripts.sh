@@ -45,7 +45,7 @@ ends_with() {
 
 find . >"$work/before"
 touch occupied
-for script in .ci/run scripts/{catalogues,fuzz,package,test,windows} tests/{key-on-windows,run-conversion}.sh \
+for script in .ci/run scripts/{catalogues,fuzz,package,test,window,windows} tests/{key-on-windows,run-conversion}.sh \
     checks/{catalogues,from-zip,hardened,in-fresh-root,in-next-debian,many-files,options,repeatable-packages}.sh \
     checks/units.sh; do
     ends_with 0 "$script" --help

@@ -1,10 +1,27 @@
 // SPDX-License-Identifier: MIT
 #include "window/background.h"
 
+#include <QCoreApplication>
+#include <QEvent>
+
 #include <utility>
 
 namespace window
 {
+
+namespace
+{
+
+/// That a piece of work is done.
+class DoneEvent : public QEvent
+{
+public:
+    explicit DoneEvent(std::function<void()> done) : QEvent(QEvent::User), done(std::move(done)) {}
+
+    const std::function<void()> done;
+};
+
+} // namespace
 
 Background::~Background()
 {
@@ -43,8 +60,14 @@ void Background::workOff()
         piece.work();
         piece.work = {}; // what it holds is not for the other thread
         if (piece.done)
-            QMetaObject::invokeMethod(this, std::move(piece.done), Qt::QueuedConnection);
+            QCoreApplication::postEvent(this, new DoneEvent(std::move(piece.done)));
     }
+}
+
+void Background::customEvent(QEvent *event)
+{
+    if (const auto *const done = dynamic_cast<DoneEvent *>(event))
+        done->done();
 }
 
 } // namespace window

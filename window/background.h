@@ -27,6 +27,9 @@ public:
     /// `done` is called in the event loop of this object's thread, as long as this is there.
     void run(std::function<void()> work, std::function<void()> done = {});
 
+protected:
+    void customEvent(QEvent *event) override;
+
 private:
     struct Piece {
         std::function<void()> work;

@@ -45,14 +45,14 @@ QModelIndex GroupsModel::index(int row, int column, const QModelIndex &parent) c
         group = source->groups.at(groupAt(parent)).children.at(row);
     else if (row > 0)
         group = tops.at(row - 1);
-    return createIndex(row, column, quintptr(group + 1));
+    return createIndex(row, column, quintptr(group) + 1);
 }
 
 QModelIndex GroupsModel::parent(const QModelIndex &index) const
 {
     const int group = groupAt(index);
     const int above = group < 0 ? -1 : source->groups.at(group).parent;
-    return above < 0 ? QModelIndex() : createIndex(rowsOfGroups.at(above), 0, quintptr(above + 1));
+    return above < 0 ? QModelIndex() : createIndex(rowsOfGroups.at(above), 0, quintptr(above) + 1);
 }
 
 int GroupsModel::rowCount(const QModelIndex &parent) const

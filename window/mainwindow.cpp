@@ -106,6 +106,12 @@ MainWindow::MainWindow(QSettings &settings)
     constexpr int pause = 100;
     progressTimer.setInterval(pause);
     connect(&progressTimer, &QTimer::timeout, this, [this] { showProgress(); });
+    endTimer.setSingleShot(true);
+    connect(&endTimer, &QTimer::timeout, this, [this] {
+        conversion.reset();
+        showProgress();
+        showState();
+    });
     restoreSettings();
     showProgress();
     showState();
@@ -149,33 +155,34 @@ void MainWindow::addFileMenu()
         add(menu, QStringLiteral("stop"), Words::tr("&Stop"), Qt::Key_Escape, [this] { stop(); });
     menu->addSeparator();
     purchaseAction = add(menu, QStringLiteral("purchase"), Words::tr("Documents are &purchases"),
-                         Qt::CTRL | Qt::Key_P, [this] { readAgain(); });
+                         QStringLiteral("Ctrl+P"), [this] { readAgain(); });
     purchaseAction->setCheckable(true);
     convertAction = add(menu, QStringLiteral("convert"), Words::tr("&Convert..."),
-                        Qt::CTRL | Qt::Key_E, [this] { askForDestination(); });
+                        QStringLiteral("Ctrl+E"), [this] { askForDestination(); });
     saveFindingsAction =
         add(menu, QStringLiteral("saveFindings"), Words::tr("Save &findings as a table..."),
             QKeySequence::Save, [this] { saveFindings(); });
     menu->addSeparator();
-    add(menu, QStringLiteral("quit"), Words::tr("&Quit"), Qt::CTRL | Qt::Key_Q,
+    add(menu, QStringLiteral("quit"), Words::tr("&Quit"), QStringLiteral("Ctrl+Q"),
         [this] { close(); });
 }
 
 void MainWindow::addCopyMenu()
 {
     QMenu *const menu = menuBar()->addMenu(Words::tr("&Copy"));
-    constexpr auto keys = Qt::CTRL | Qt::SHIFT;
-    copyChosenAction = add(menu, QStringLiteral("copyChosen"), Words::tr("&Chosen goods"),
-                           keys | Qt::Key_C, [this] { copyGoods(/*onlyChosen=*/true); });
-    copyAllAction = add(menu, QStringLiteral("copyAll"), Words::tr("&All goods"), keys | Qt::Key_A,
-                        [this] { copyGoods(/*onlyChosen=*/false); });
-    add(menu, QStringLiteral("howToCopy"), Words::tr("&How to copy goods..."), keys | Qt::Key_H,
-        [this] { askHowToCopy(); });
+    copyChosenAction =
+        add(menu, QStringLiteral("copyChosen"), Words::tr("&Chosen goods"),
+            QStringLiteral("Ctrl+Shift+C"), [this] { copyGoods(/*onlyChosen=*/true); });
+    copyAllAction =
+        add(menu, QStringLiteral("copyAll"), Words::tr("&All goods"),
+            QStringLiteral("Ctrl+Shift+A"), [this] { copyGoods(/*onlyChosen=*/false); });
+    add(menu, QStringLiteral("howToCopy"), Words::tr("&How to copy goods..."),
+        QStringLiteral("Ctrl+Shift+H"), [this] { askHowToCopy(); });
     menu->addSeparator();
     copyOrderAction = add(menu, QStringLiteral("copyOrder"), Words::tr("&Lines of the document"),
-                          keys | Qt::Key_L, [this] { copyOrder(); });
+                          QStringLiteral("Ctrl+Shift+L"), [this] { copyOrder(); });
     withGoodsAction = add(menu, QStringLiteral("withGoods"), Words::tr("Lines with &goods"),
-                          keys | Qt::Key_G, [] {});
+                          QStringLiteral("Ctrl+Shift+G"), [] {});
     withGoodsAction->setCheckable(true);
     withGoodsAction->setChecked(true);
 }
@@ -273,8 +280,9 @@ void MainWindow::stop()
     if (loader.isLoading())
         tell(Words::tr("The reading was stopped."));
     loader.stop();
-    if (conversion)
+    if (conversion && !endTimer.isActive())
         tell(Words::tr("The conversion was stopped; the destination is as it was."));
+    endTimer.stop();
     conversion.reset();
     showProgress();
     showState();
@@ -394,12 +402,7 @@ void MainWindow::convert(const QString &destination)
     conversion->tell = [this](const delivery::Outcome &outcome) { tellOutcome(outcome); };
     conversion->progressed = [this](double share, const QString &) { converted = share; };
     conversion->done = [this] {
-        // It is in the middle of telling so.
-        QTimer::singleShot(0, this, [this] {
-            conversion.reset();
-            showProgress();
-            showState();
-        });
+        endTimer.start(0); // it is in the middle of telling so
     };
     conversion->begin();
     showProgress();

@@ -101,6 +101,7 @@ private:
     QFileSystemWatcher watcher;
     QTimer changeTimer;
     QTimer progressTimer;
+    QTimer endTimer; ///< of a conversion
     FileState shownState;
 
     GoodsPage *goods;
