@@ -99,7 +99,8 @@ void OrdersPage::showCurrent()
     const Order order = row < 0 ? Order() : source->orders.at(row);
     lines.show(order.lines);
     details.show(order.partnerDetails);
-    requisites->setPlainText(order.requisites);
+    constexpr int longest = 200000; // it is laid out at once
+    requisites->setPlainText(order.requisites.left(longest));
     reason->setVisible(order.isLost);
     if (order.isLost)
         reason->setText(Words::tr("Not exported: %1").arg(sentence(order.loss)));

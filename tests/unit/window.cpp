@@ -284,6 +284,7 @@ private slots:
         QVERIFY(fixture.opens(source));
         QTRY_COMPARE(fixture.rowCount("Goods"), 1);
         QVERIFY(QFile::remove(source)); // as programs do that replace a file
+        QTest::qWait(700);
         fixture.write("s.xml", largeSource(2));
         QTRY_COMPARE(fixture.message(), QString("The source has changed on the disk."));
         fixture.trigger("readAgain");
