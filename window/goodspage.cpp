@@ -53,8 +53,10 @@ GoodsPage::GoodsPage(Desk &desk)
     rightLayout->addWidget(rows);
     columns->addWidget(groupsView);
     columns->addWidget(right);
-    columns->setStretchFactor(0, 1);
-    columns->setStretchFactor(1, 4);
+    columns->setStretchFactor(1, 1);
+    constexpr int letters = 32; // of a group, at first
+    const int width = letters * fontMetrics().averageCharWidth();
+    columns->setSizes({width, 3 * width});
     auto *const layout = new QVBoxLayout(this);
     layout->addWidget(columns);
 

@@ -23,6 +23,7 @@ static void translateToolkit(QTranslator &translator)
 
 int main(int argc, char *argv[])
 {
+    window::preparePlatform();
     if (window::isWorker(argc, argv))
         return window::beWorker(argc, argv);
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
@@ -30,6 +31,7 @@ int main(int argc, char *argv[])
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
 #endif
     const QApplication application(argc, argv);
+    window::prepareApplication();
     const words::Speaking speaking(words::languageOfUser());
     QTranslator translator;
     translateToolkit(translator);

@@ -161,7 +161,7 @@ KindsModel::KindsModel()
            [this](int row) {
                return row == 0 ? QString() : words::levelWord(first.at(row - 1).level);
            }},
-          {QT_TRANSLATE_NOOP("Words", "Number"),
+          {QT_TRANSLATE_NOOP("Words", "Count"),
            [this](int row) { return QString::number(row == 0 ? count : counts.at(row - 1)); }, 12,
            true},
           {QT_TRANSLATE_NOOP("Words", "Finding"),

@@ -4,6 +4,12 @@
 namespace window
 {
 
+/// Called once, ahead of everything else.
+void preparePlatform();
+
+/// Called once, as soon as there is an application object.
+void prepareApplication();
+
 /// Whether the program was started as one of its own workers.
 bool isWorker(int argc, char **argv);
 

@@ -368,6 +368,22 @@ private slots:
         QTRY_VERIFY(fixture.message().contains("the destination is the source itself"));
     }
 
+    void stoppedConversion()
+    {
+        const Fixture fixture;
+        QVERIFY(fixture.opens(fixture.write("s.xml", largeSource(100'000))));
+        const QString destination = fixture.write("made.txt", "old");
+        fixture.window->convert(destination);
+        QTest::qWait(20);
+        fixture.trigger("stop");
+        QVERIFY(fixture.message().contains("as it was"));
+        QVERIFY(fixture.action("convert")->isEnabled());
+        QCOMPARE(QFileInfo(destination).size(), qint64(3));
+        const QDir folder(fixture.folder.path());
+        const QStringList files = folder.entryList(QDir::Files | QDir::Hidden, QDir::Name);
+        QCOMPARE(files, QStringList({"made.txt", "s.xml", "settings.ini"}));
+    }
+
     /// The keyboard alone is enough.
     void keys()
     {
@@ -388,9 +404,11 @@ private slots:
 
 int main(int argc, char *argv[])
 {
+    preparePlatform();
     if (isWorker(argc, argv))
         return beWorker(argc, argv);
     const QApplication application(argc, argv);
+    prepareApplication();
     WindowTest test;
     return QTest::qExec(&test, argc, argv);
 }
