@@ -87,5 +87,19 @@
             <numerusform>the old file is kept: it has %n documents, the new one would have %1</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n line(s) are on the clipboard.</source>
+        <translation>
+            <numerusform>%n line is on the clipboard.</numerusform>
+            <numerusform>%n lines are on the clipboard.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n shown</source>
+        <translation>
+            <numerusform>%n shown</numerusform>
+            <numerusform>%n shown</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

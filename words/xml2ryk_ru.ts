@@ -787,5 +787,505 @@
         <source>it is not written, since something would be left out</source>
         <translation>файл не записан: в него попало бы не всё</translation>
     </message>
+    <message>
+        <source>Begin rows with &amp;##</source>
+        <translation>Начинать строки с &amp;##</translation>
+    </message>
+    <message>
+        <source>With &amp;descriptions</source>
+        <translation>С &amp;описаниями</translation>
+    </message>
+    <message>
+        <source>Descriptions are &amp;HTML</source>
+        <translation>Описания в &amp;HTML</translation>
+    </message>
+    <message>
+        <source>&amp;Extended offers of shop feeds</source>
+        <translation>&amp;Расширенные предложения магазинов</translation>
+    </message>
+    <message>
+        <source>&amp;Multiply the prices of offers by</source>
+        <translation>&amp;Умножать цены предложений на</translation>
+    </message>
+    <message>
+        <source>How to copy goods</source>
+        <translation>Как копировать товары</translation>
+    </message>
+    <message>
+        <source>Factor of prices</source>
+        <translation>Множитель цен</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Kinds of findings</source>
+        <translation>Виды замечаний</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>Замечания</translation>
+    </message>
+    <message>
+        <source>Goods</source>
+        <translation>Товары</translation>
+    </message>
+    <message>
+        <source>Filter: words of any column</source>
+        <translation>Фильтр: слова из любых столбцов</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Фильтр</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>Группы</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Описание</translation>
+    </message>
+    <message>
+        <source>No description</source>
+        <translation>Описания нет</translation>
+    </message>
+    <message>
+        <source>All goods</source>
+        <translation>Все товары</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Группа</translation>
+    </message>
+    <message>
+        <source>Close message</source>
+        <translation>Закрыть сообщение</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Остановить</translation>
+    </message>
+    <message>
+        <source>Orders</source>
+        <translation>Заказы</translation>
+    </message>
+    <message>
+        <source>Overview</source>
+        <translation>Обзор</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Ход работы</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Файл</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>&amp;Открыть...</translation>
+    </message>
+    <message>
+        <source>Open &amp;recent</source>
+        <translation>Открыть &amp;недавний</translation>
+    </message>
+    <message>
+        <source>Read &amp;again</source>
+        <translation>Прочитать &amp;заново</translation>
+    </message>
+    <message>
+        <source>&amp;Stop</source>
+        <translation>О&amp;становить</translation>
+    </message>
+    <message>
+        <source>Documents are &amp;purchases</source>
+        <translation>Документы — &amp;покупки</translation>
+    </message>
+    <message>
+        <source>&amp;Convert...</source>
+        <translation>Прео&amp;бразовать...</translation>
+    </message>
+    <message>
+        <source>Save &amp;findings as a table...</source>
+        <translation>Сохранить замечания &amp;таблицей...</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>В&amp;ыход</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Копировать</translation>
+    </message>
+    <message>
+        <source>&amp;Chosen goods</source>
+        <translation>&amp;Выбранные товары</translation>
+    </message>
+    <message>
+        <source>&amp;All goods</source>
+        <translation>В&amp;се товары</translation>
+    </message>
+    <message>
+        <source>&amp;How to copy goods...</source>
+        <translation>&amp;Как копировать товары...</translation>
+    </message>
+    <message>
+        <source>&amp;Lines of the document</source>
+        <translation>С&amp;троки документа</translation>
+    </message>
+    <message>
+        <source>Lines with &amp;goods</source>
+        <translation>Строки с &amp;товарами</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Вид</translation>
+    </message>
+    <message>
+        <source>&amp;Filter</source>
+        <translation>&amp;Фильтр</translation>
+    </message>
+    <message>
+        <source>&amp;Sort by the current column</source>
+        <translation>&amp;Упорядочить по текущему столбцу</translation>
+    </message>
+    <message>
+        <source>&amp;Columns of goods</source>
+        <translation>&amp;Столбцы товаров</translation>
+    </message>
+    <message>
+        <source>Nothing yet</source>
+        <translation>Пока ничего</translation>
+    </message>
+    <message>
+        <source>Open a source</source>
+        <translation>Открыть источник</translation>
+    </message>
+    <message>
+        <source>Sources (*.xml *.yml)</source>
+        <translation>Источники (*.xml *.yml)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Все файлы (*)</translation>
+    </message>
+    <message>
+        <source>The reading was stopped.</source>
+        <translation>Чтение остановлено.</translation>
+    </message>
+    <message>
+        <source>The conversion was stopped; the destination is as it was.</source>
+        <translation>Преобразование остановлено; файл назначения остался прежним.</translation>
+    </message>
+    <message>
+        <source>The source has changed on the disk.</source>
+        <translation>Источник на диске изменился.</translation>
+    </message>
+    <message>
+        <source>&amp;Read again</source>
+        <translation>Прочитать &amp;заново</translation>
+    </message>
+    <message>
+        <source>Save findings as a table</source>
+        <translation>Сохранить замечания таблицей</translation>
+    </message>
+    <message>
+        <source>Tables (*.csv)</source>
+        <translation>Таблицы (*.csv)</translation>
+    </message>
+    <message>
+        <source>The findings are in %1.</source>
+        <translation>Замечания сохранены в %1.</translation>
+    </message>
+    <message>
+        <source>The findings could not be saved: %1</source>
+        <translation>Замечания не удалось сохранить: %1</translation>
+    </message>
+    <message>
+        <source>Convert to</source>
+        <translation>Преобразовать в</translation>
+    </message>
+    <message>
+        <source>Exchange files (*.txt)</source>
+        <translation>Файлы обмена (*.txt)</translation>
+    </message>
+    <message>
+        <source>%1 was not written.</source>
+        <translation>Файл %1 не записан.</translation>
+    </message>
+    <message>
+        <source>%1 was created: %2.</source>
+        <translation>Создан файл %1: %2.</translation>
+    </message>
+    <message>
+        <source>%1 was replaced: %2.</source>
+        <translation>Заменён файл %1: %2.</translation>
+    </message>
+    <message>
+        <source>%1 has it all already: %2.</source>
+        <translation>В файле %1 всё это уже есть: %2.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) are on the clipboard.</source>
+        <translation>
+            <numerusform>%n строка в буфере обмена.</numerusform>
+            <numerusform>%n строки в буфере обмена.</numerusform>
+            <numerusform>%n строк в буфере обмена.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is nothing to copy.</source>
+        <translation>Копировать нечего.</translation>
+    </message>
+    <message>
+        <source>reading %1</source>
+        <translation>читается %1</translation>
+    </message>
+    <message>
+        <source>converting</source>
+        <translation>идёт преобразование</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n shown</source>
+        <translation>
+            <numerusform>показан %n</numerusform>
+            <numerusform>показаны %n</numerusform>
+            <numerusform>показано %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Open a source, or drop one here</source>
+        <translation>Откройте источник или перетащите его сюда</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Документы</translation>
+    </message>
+    <message>
+        <source>Lines of the document</source>
+        <translation>Строки документа</translation>
+    </message>
+    <message>
+        <source>Partner</source>
+        <translation>Контрагент</translation>
+    </message>
+    <message>
+        <source>Requisites</source>
+        <translation>Реквизиты</translation>
+    </message>
+    <message>
+        <source>No requisites</source>
+        <translation>Реквизитов нет</translation>
+    </message>
+    <message>
+        <source>Not exported: %1</source>
+        <translation>Не выгружается: %1</translation>
+    </message>
+    <message>
+        <source>other groups</source>
+        <translation>другие группы</translation>
+    </message>
+    <message>
+        <source>in no group</source>
+        <translation>вне групп</translation>
+    </message>
+    <message>
+        <source>Goods by group</source>
+        <translation>Товары по группам</translation>
+    </message>
+    <message>
+        <source>%1 and more</source>
+        <translation>от %1</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>от %1 до %2</translation>
+    </message>
+    <message>
+        <source>without a price</source>
+        <translation>без цены</translation>
+    </message>
+    <message>
+        <source>Goods by price</source>
+        <translation>Товары по ценам</translation>
+    </message>
+    <message>
+        <source>Findings by level</source>
+        <translation>Замечания по уровням</translation>
+    </message>
+    <message>
+        <source>There is nothing to show</source>
+        <translation>Показывать нечего</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Код</translation>
+    </message>
+    <message>
+        <source>Article</source>
+        <translation>Артикул</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Наименование</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Единица</translation>
+    </message>
+    <message>
+        <source>Barcode</source>
+        <translation>Штрихкод</translation>
+    </message>
+    <message>
+        <source>Prices</source>
+        <translation>Цены</translation>
+    </message>
+    <message>
+        <source>Maker</source>
+        <translation>Производитель</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>Страна</translation>
+    </message>
+    <message>
+        <source>Weight</source>
+        <translation>Вес</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Изображение</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Примечание</translation>
+    </message>
+    <message>
+        <source>sold out</source>
+        <translation>распродан</translation>
+    </message>
+    <message>
+        <source>it stands behind a document without lines, at which the export ends</source>
+        <translation>документ стоит после документа без строк, на котором выгрузка заканчивается</translation>
+    </message>
+    <message>
+        <source>it has no code</source>
+        <translation>нет кода</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Номер</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Дата</translation>
+    </message>
+    <message>
+        <source>Role</source>
+        <translation>Роль</translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation>Комментарий</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Статус</translation>
+    </message>
+    <message>
+        <source>Sum</source>
+        <translation>Сумма</translation>
+    </message>
+    <message>
+        <source>Not exported</source>
+        <translation>Не выгружается</translation>
+    </message>
+    <message>
+        <source>Quantity</source>
+        <translation>Количество</translation>
+    </message>
+    <message>
+        <source>Price</source>
+        <translation>Цена</translation>
+    </message>
+    <message>
+        <source>Full name</source>
+        <translation>Полное наименование</translation>
+    </message>
+    <message>
+        <source>INN</source>
+        <translation>ИНН</translation>
+    </message>
+    <message>
+        <source>KPP</source>
+        <translation>КПП</translation>
+    </message>
+    <message>
+        <source>OKPO</source>
+        <translation>ОКПО</translation>
+    </message>
+    <message>
+        <source>Legal address</source>
+        <translation>Юридический адрес</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Адрес</translation>
+    </message>
+    <message>
+        <source>Phone</source>
+        <translation>Телефон</translation>
+    </message>
+    <message>
+        <source>Second phone</source>
+        <translation>Второй телефон</translation>
+    </message>
+    <message>
+        <source>Third phone</source>
+        <translation>Третий телефон</translation>
+    </message>
+    <message>
+        <source>E-mail</source>
+        <translation>Электронная почта</translation>
+    </message>
+    <message>
+        <source>Detail</source>
+        <translation>Реквизит</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Значение</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Уровень</translation>
+    </message>
+    <message>
+        <source>Count</source>
+        <translation>Количество</translation>
+    </message>
+    <message>
+        <source>Finding</source>
+        <translation>Замечание</translation>
+    </message>
+    <message>
+        <source>All findings</source>
+        <translation>Все замечания</translation>
+    </message>
+    <message>
+        <source>line %1, column %2</source>
+        <translation>строка %1, столбец %2</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Место</translation>
+    </message>
+    <message>
+        <source>Good or order</source>
+        <translation>Товар или заказ</translation>
+    </message>
 </context>
 </TS>
