@@ -5,15 +5,11 @@
 #include "batch/platform.h"
 #include "batch/verify.h"
 #include "delivery/interrupts.h"
+#include "delivery/program.h"
 #include "delivery/run.h"
-#include "delivery/worker.h"
-#include "job/idledispatcher.h"
-#include "job/platform.h"
 #include "words/language.h"
 
 #include <QCoreApplication>
-
-#include <cstring>
 
 namespace
 {
@@ -21,15 +17,6 @@ namespace
 using namespace batch;
 using namespace delivery;
 using words::Words;
-
-int beWorker(int argc, char **argv)
-{
-    QCoreApplication::setEventDispatcher(new IdleDispatcher); // which the application owns
-    // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks)
-    const QCoreApplication application(argc, argv);
-    prepareApplication();
-    return work({survey::check, survey::convert});
-}
 
 int refuse(const QString &text)
 {
@@ -61,11 +48,11 @@ int carryOut(const Options &options)
 
 int main(int argc, char *argv[])
 {
-    ::preparePlatform();
-    batch::preparePlatform();
+    prepareProgram();
+    prepareStreams();
     // It says itself what there is to say.
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
-    if (argc > 1 && std::strcmp(argv[1], workerArgument) == 0)
+    if (isWorker(argc, argv))
         return beWorker(argc, argv);
 
     const QCoreApplication application(argc, argv);

@@ -12,11 +12,8 @@
 namespace batch
 {
 
-/// Called once, ahead of everything else.
-void preparePlatform();
-
-/// Called once, as soon as there is an application object.
-void prepareApplication();
+/// Called once, ahead of everything that is written: lines end as they do elsewhere.
+void prepareStreams();
 
 /// The arguments behind the program's name, whole. Where one is no text, that is `notText`, as far
 /// as it can be shown.

@@ -5,11 +5,9 @@
 #include "delivery/platform.h"
 
 #include <QFile>
-#include <QTextCodec>
 
 #include <algorithm>
 #include <cerrno>
-#include <clocale>
 #include <dirent.h>
 #include <fcntl.h>
 #include <memory>
@@ -20,17 +18,7 @@
 namespace batch
 {
 
-void preparePlatform()
-{
-    // Names of files are UTF-8, whatever the locale is.
-    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
-}
-
-void prepareApplication()
-{
-    // What the system says is put into words by its English text.
-    std::setlocale(LC_MESSAGES, "C");
-}
+void prepareStreams() {}
 
 /// Bytes as a text, with U+FFFD for what is none.
 static bool isText(const QByteArray &bytes, QString &text)

@@ -14,14 +14,12 @@
 namespace batch
 {
 
-void preparePlatform()
+void prepareStreams()
 {
     // Lines end as they do elsewhere: it is for other programs, too, what is written there.
     _setmode(_fileno(stdout), _O_BINARY);
     _setmode(_fileno(stderr), _O_BINARY);
 }
-
-void prepareApplication() {}
 
 QStringList arguments(int /*argc*/, char ** /*argv*/, QString & /*notText*/)
 {

@@ -1,14 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "delivery/interrupts.h"
 #include "delivery/platform.h"
+#include "delivery/program.h"
+#include "job/platform.h"
 
 #include <QEvent>
 #include <QFile>
 #include <QFileInfo>
 #include <QSocketNotifier>
+#include <QTextCodec>
 
 #include <cerrno>
 #include <climits>
+#include <clocale>
 #include <csignal>
 #include <fcntl.h>
 #include <iterator>
@@ -22,6 +26,17 @@
 
 namespace delivery
 {
+
+void prepareProgram()
+{
+    preparePlatform();
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+}
+
+void prepareApplication()
+{
+    std::setlocale(LC_MESSAGES, "C");
+}
 
 static bool isSame(const struct stat &one, const struct stat &other)
 {

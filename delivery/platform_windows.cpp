@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "delivery/interrupts.h"
 #include "delivery/platform.h"
+#include "delivery/program.h"
+#include "job/platform.h"
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
@@ -18,6 +20,13 @@
 
 namespace delivery
 {
+
+void prepareProgram()
+{
+    preparePlatform();
+}
+
+void prepareApplication() {}
 
 constexpr DWORD sharedByAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "window/desk.h"
 
+#include <new>
 #include <utility>
 
 namespace window
@@ -46,15 +47,26 @@ void Desk::collect(const std::function<void(SourceReader &reader)> &collect,
     if (!reader)
         return;
     const auto lent = std::make_shared<Opened>(Opened{shown, std::move(reader)});
-    background.run([=] { collect(*lent->reader); },
-                   [=, tell = std::move(tell)] {
-                       if (lent->source != shown) {
-                           putAway(std::move(*lent));
-                           return;
-                       }
-                       reader = std::move(lent->reader);
-                       tell(*reader);
-                   });
+    const auto isOut = std::make_shared<bool>(false);
+    const auto work = [=] {
+        try {
+            collect(*lent->reader);
+        } catch (const std::bad_alloc &) {
+            lent->reader->forgetRows();
+            *isOut = true;
+        }
+    };
+    background.run(work, [=, tell = std::move(tell)] {
+        if (lent->source != shown) {
+            putAway(std::move(*lent));
+            return;
+        }
+        reader = std::move(lent->reader);
+        if (*isOut)
+            ranOut();
+        else
+            tell(*reader);
+    });
 }
 
 } // namespace window

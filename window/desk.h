@@ -33,6 +33,9 @@ public:
     /// Whether rows can be collected: there is a source, and none are being collected.
     bool hasReader() const { return reader != nullptr; }
 
+    /// Told where memory ran out while rows were collected.
+    std::function<void()> ranOut;
+
     /// Has the reader collect rows there, and tells of it here, unless there is another source
     /// then.
     void collect(const std::function<void(SourceReader &reader)> &collect,

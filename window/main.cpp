@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "delivery/program.h"
 #include "window/mainwindow.h"
-#include "window/worker.h"
 #include "words/language.h"
 
 #include <QApplication>
@@ -23,15 +23,15 @@ static void translateToolkit(QTranslator &translator)
 
 int main(int argc, char *argv[])
 {
-    window::preparePlatform();
-    if (window::isWorker(argc, argv))
-        return window::beWorker(argc, argv);
+    delivery::prepareProgram();
+    if (delivery::isWorker(argc, argv))
+        return delivery::beWorker(argc, argv);
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
 #endif
     const QApplication application(argc, argv);
-    window::prepareApplication();
+    delivery::prepareApplication();
     const words::Speaking speaking(words::languageOfUser());
     QTranslator translator;
     translateToolkit(translator);

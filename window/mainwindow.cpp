@@ -31,6 +31,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <new>
 #include <utility>
 
 using words::Words;
@@ -91,6 +92,10 @@ MainWindow::MainWindow(QSettings &settings)
     setAcceptDrops(true);
     setWindowTitle(QStringLiteral("xml2ryk"));
 
+    desk.ranOut = [this] {
+        tell(Words::tr("memory ran out"));
+        showState();
+    };
     loader.opened = [this](Opened opened) { showOpened(std::move(opened)); };
     goods->changed = [this] { showState(); };
     orders->changed = [this] { showState(); };
@@ -466,8 +471,14 @@ void MainWindow::copyOrder()
 void MainWindow::putOnClipboard(SourceReader &reader)
 {
     const int count = reader.rowCount();
-    if (count > 0)
-        reader.copyRowsToClipboard();
+    try {
+        if (count > 0)
+            reader.copyRowsToClipboard();
+    } catch (const std::bad_alloc &) {
+        reader.forgetRows();
+        desk.ranOut();
+        return;
+    }
     tell(count > 0 ? Words::tr("%n line(s) are on the clipboard.", nullptr, count)
                    : Words::tr("There is nothing to copy."));
     reader.forgetRows();

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 //
 // The window, used as people use it. Pictures of its pages are saved to the folder PICTURES.
+#include "delivery/program.h"
 #include "pasted.h"
 #include "reader/tree.h"
 #include "window/infobar.h"
 #include "window/mainwindow.h"
-#include "window/worker.h"
 
 #include <QAction>
 #include <QApplication>
@@ -404,11 +404,11 @@ private slots:
 
 int main(int argc, char *argv[])
 {
-    preparePlatform();
-    if (isWorker(argc, argv))
-        return beWorker(argc, argv);
+    delivery::prepareProgram();
+    if (delivery::isWorker(argc, argv))
+        return delivery::beWorker(argc, argv);
     const QApplication application(argc, argv);
-    prepareApplication();
+    delivery::prepareApplication();
     WindowTest test;
     return QTest::qExec(&test, argc, argv);
 }
