@@ -37,7 +37,9 @@ int main(int argc, char *argv[])
     pulse.start(1);
     const auto settle = [](int milliseconds) {
         QEventLoop loop;
-        QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+        QTimer timer;
+        QObject::connect(&timer, &QTimer::timeout, &loop, &QEventLoop::quit);
+        timer.start(milliseconds);
         loop.exec();
     };
     settle(500);

@@ -38,7 +38,7 @@ struct RunOptions {
 class Run
 {
 public:
-    Run(RunOptions options, std::vector<Job> jobs);
+    Run(RunOptions given, std::vector<Job> planned);
     ~Run();
     Q_DISABLE_COPY(Run)
 
