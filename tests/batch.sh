@@ -9,7 +9,7 @@ set -euo pipefail
 expect_arguments 1 1 "$@"
 work=$(mktemp -d)
 chmod 755 "$work"
-trap 'kill $(jobs -p) 2>/dev/null; rm -rf "$work"' EXIT
+trap 'kill $(jobs -p) 2>/dev/null || true; rm -rf "$work"' EXIT
 # Where another user can run it.
 cp "$1" "$work/batch"
 cd "$work"

@@ -371,7 +371,7 @@ private slots:
     void stoppedConversion()
     {
         const Fixture fixture;
-        QVERIFY(fixture.opens(fixture.write("s.xml", largeSource(100'000))));
+        QVERIFY(fixture.opens(fixture.write("s.xml", largeSource(20'000))));
         const QString destination = fixture.write("made.txt", "old");
         fixture.window->convert(destination);
         QTest::qWait(20);
