@@ -27,6 +27,9 @@ using namespace window;
 QString realTextOf(const QDomNode &element) asm("__real__Z6textOfRK8QDomNode");
 QString wrappedTextOf(const QDomNode &element) asm("__wrap__Z6textOfRK8QDomNode");
 
+// With sanitizers, and on a busy machine, things take their time.
+constexpr int patience = 60'000;
+
 static std::atomic<Qt::HANDLE> windowThread;
 static std::atomic_int walksInWindow;
 static std::atomic_int walksElsewhere;
@@ -83,7 +86,8 @@ public:
     {
         window->open(path);
         return QTest::qWaitFor(
-            [&] { return window->windowTitle().startsWith(QFileInfo(path).fileName() + " "); });
+            [&] { return window->windowTitle().startsWith(QFileInfo(path).fileName() + " "); },
+            patience);
     }
 
     /// A file of the folder.
@@ -171,18 +175,18 @@ private slots:
     {
         const Fixture fixture;
         QVERIFY(fixture.opens(fixture.write("s.xml", largeSource(3000))));
-        QTRY_COMPARE(fixture.rowCount("Goods"), 3000);
+        QTRY_COMPARE_WITH_TIMEOUT(fixture.rowCount("Goods"), 3000, patience);
         fixture.named<QLineEdit>("Filter")->setText("ТОВАР");
         QTest::keyClicks(fixture.named<QLineEdit>("Filter"), " 77");
-        QTRY_COMPARE(fixture.rowCount("Goods"), 3 * 19);
+        QTRY_COMPARE_WITH_TIMEOUT(fixture.rowCount("Goods"), 3 * 19, patience);
         QVERIFY(!fixture.action("copyChosen")->isEnabled());
         fixture.table("Goods")->selectRow(1);
         fixture.trigger("copyChosen");
-        QTRY_VERIFY(fixture.message().startsWith("1 line"));
+        QTRY_VERIFY_WITH_TIMEOUT(fixture.message().startsWith("1 line"), patience);
         QCOMPARE(pasted(), QString("177\tDP8\tтовар 177\n"));
 
         fixture.trigger("copyAll");
-        QTRY_VERIFY(fixture.message().startsWith("3000 lines"));
+        QTRY_VERIFY_WITH_TIMEOUT(fixture.message().startsWith("3000 lines"), patience);
         QCOMPARE(pasted().count('\n'), 3000);
         QVERIFY(pasted().endsWith("\n2999\tDP8\tтовар 999\n"));
     }
@@ -194,11 +198,11 @@ private slots:
         QCOMPARE(fixture.rowCount("Documents"), 2);
         fixture.table("Documents")->selectRow(1);
         fixture.trigger("copyOrder");
-        QTRY_VERIFY(fixture.message().contains("clipboard"));
+        QTRY_VERIFY_WITH_TIMEOUT(fixture.message().contains("clipboard"), patience);
         const QString withGoods = pasted();
         fixture.trigger("withGoods");
         fixture.trigger("copyOrder");
-        QTRY_VERIFY(pasted() != withGoods);
+        QTRY_VERIFY_WITH_TIMEOUT(pasted() != withGoods, patience);
         const QString code =
             fixture.table("Lines of the document")->model()->index(0, 0).data().toString();
         QVERIFY(withGoods.startsWith("##\t" + code + "\t"));
@@ -214,7 +218,7 @@ private slots:
         QVERIFY(fixture.opens(source));
         fixture.trigger("page3");
         QTest::keyClicks(fixture.named<QLineEdit>("Filter"), "a");
-        QTRY_COMPARE(fixture.rowCount("Goods"), 1);
+        QTRY_COMPARE_WITH_TIMEOUT(fixture.rowCount("Goods"), 1, patience);
         QTableView *const kinds = fixture.table("Kinds of findings");
         QTableView *const findings = fixture.table("Findings");
         QVERIFY(kinds->model()->rowCount() > 2);
@@ -226,7 +230,7 @@ private slots:
         findings->setFocus();
         findings->selectRow(0);
         QTest::keyClick(findings, Qt::Key_Return);
-        QTRY_COMPARE(fixture.rowCount("Goods"), 2);
+        QTRY_COMPARE_WITH_TIMEOUT(fixture.rowCount("Goods"), 2, patience);
         QCOMPARE(fixture.table("Goods")->currentIndex().row(), 1);
     }
 
@@ -250,7 +254,7 @@ private slots:
         const QString path =
             xml.isNull() ? fixture.folder.filePath("no.xml") : fixture.write("s.xml", xml);
         fixture.window->open(path);
-        QTRY_VERIFY(fixture.message().contains(message));
+        QTRY_VERIFY_WITH_TIMEOUT(fixture.message().contains(message), patience);
         QVERIFY(fixture.message().contains(QFileInfo(path).fileName()));
         const bool isShown = xml.startsWith("<html");
         QCOMPARE(fixture.window->windowTitle().startsWith("catalogue.xml"), !isShown);
@@ -273,7 +277,7 @@ private slots:
         QTest::qWait(20);
         QVERIFY(fixture.opens(example("shop-windows-1251.xml")));
         QVERIFY(fixture.opens(example("catalogue.xml")));
-        QTRY_COMPARE(fixture.rowCount("Goods"), goods);
+        QTRY_COMPARE_WITH_TIMEOUT(fixture.rowCount("Goods"), goods, patience);
         fixture.window->open(large); // and so does the end
     }
 
@@ -282,13 +286,14 @@ private slots:
         const Fixture fixture;
         const QString source = fixture.write("s.xml", largeSource(1));
         QVERIFY(fixture.opens(source));
-        QTRY_COMPARE(fixture.rowCount("Goods"), 1);
+        QTRY_COMPARE_WITH_TIMEOUT(fixture.rowCount("Goods"), 1, patience);
         QVERIFY(QFile::remove(source)); // as programs do that replace a file
         QTest::qWait(700);
         fixture.write("s.xml", largeSource(2));
-        QTRY_COMPARE(fixture.message(), QString("The source has changed on the disk."));
+        QTRY_COMPARE_WITH_TIMEOUT(fixture.message(), QString("The source has changed on the disk."),
+                                  patience);
         fixture.trigger("readAgain");
-        QTRY_COMPARE(fixture.rowCount("Goods"), 2);
+        QTRY_COMPARE_WITH_TIMEOUT(fixture.rowCount("Goods"), 2, patience);
         QCOMPARE(fixture.message(), QString());
     }
 
@@ -307,7 +312,7 @@ private slots:
         QFETCH(QByteArray, text);
         const Fixture fixture(text);
         QVERIFY(fixture.opens(example("catalogue.xml")));
-        QTRY_VERIFY(fixture.rowCount("Goods") > 0);
+        QTRY_VERIFY_WITH_TIMEOUT(fixture.rowCount("Goods") > 0, patience);
         fixture.window->close();
         QVERIFY(!fixture.settings->value("geometry").toByteArray().isEmpty());
     }
@@ -322,7 +327,8 @@ private slots:
         QVERIFY(enters.isAccepted());
         QDropEvent event(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
         QCoreApplication::sendEvent(fixture.window.get(), &event);
-        QTRY_VERIFY(fixture.window->windowTitle().startsWith("catalogue.xml"));
+        QTRY_VERIFY_WITH_TIMEOUT(fixture.window->windowTitle().startsWith("catalogue.xml"),
+                                 patience);
     }
 
     void conversions_data()
@@ -359,13 +365,15 @@ private slots:
         const QString made = fixture.folder.filePath("made.txt");
         for (const char *const outcome : {"was created", "has it all already"}) {
             fixture.window->convert(made);
-            QTRY_VERIFY2(fixture.message().contains(outcome), qPrintable(fixture.message()));
-            QTRY_VERIFY(fixture.action("convert")->isEnabled());
+            QTRY_VERIFY2_WITH_TIMEOUT(fixture.message().contains(outcome),
+                                      qPrintable(fixture.message()), patience);
+            QTRY_VERIFY_WITH_TIMEOUT(fixture.action("convert")->isEnabled(), patience);
             QCOMPARE(bytes(made), bytes(wanted));
         }
         QCOMPARE(bytes(made).contains("code:b\n"), purchase);
         fixture.window->convert(source);
-        QTRY_VERIFY(fixture.message().contains("the destination is the source itself"));
+        QTRY_VERIFY_WITH_TIMEOUT(fixture.message().contains("the destination is the source itself"),
+                                 patience);
     }
 
     void stoppedConversion()
