@@ -139,7 +139,7 @@ find . -name '*.html' | while IFS= read -r page; do
     grep -q "<html [^>]* lang=\"$language\"" "$page" || fail "$page: not marked as $language"
     grep -q 'charset="utf-8"' "$page" || fail "$page: no charset"
     { xmllint --html --xpath '//@href | //@src' "$page" 2>/dev/null || true; } |
-        sed -n '/"https*:/d; s/^ *[a-z]*="\(.*\)"$/\1/p' | while IFS= read -r link; do
+        sed -n '/"https*:\|"data:/d; s/^ *[a-z]*="\(.*\)"$/\1/p' | while IFS= read -r link; do
         [[ $link != \#* ]] || link=$(basename "$page")$link
         target=$(dirname "$page")/${link%%#*}
         [ -e "$target" ] || fail "$page: nothing at $link"
