@@ -26,7 +26,9 @@ public:
     template <typename Result>
     void tell(const Result &result)
     {
-        tell(subjectOf(result), toLines(result), json ? toJson(result) : QJsonObject());
+        // With --all they can be as large as the source.
+        tell(subjectOf(result), json && !log.isOpen() ? QStringList() : toLines(result),
+             json ? toJson(result) : QJsonObject());
         exitCode = graver(exitCode, result.exitCode);
     }
 

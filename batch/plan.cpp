@@ -9,6 +9,8 @@
 #include <QHash>
 #include <QSet>
 
+#include <utility>
+
 namespace batch
 {
 
@@ -20,16 +22,13 @@ using words::Words;
 namespace
 {
 
-QString keyOf(const FileState &state)
-{
-    return QStringLiteral("%1:%2").arg(state.volume).arg(state.index);
-}
-
 /// What tells a file from others, whatever path leads to it; null if it is not there.
 QString fileKey(const QString &path)
 {
     const FileState state = stateOf(path);
-    return state.kind == FileState::Kind::Nothing ? QString() : keyOf(state);
+    return state.kind == FileState::Kind::Nothing
+               ? QString()
+               : QStringLiteral("%1:%2").arg(state.volume).arg(state.index);
 }
 
 /// The same for a file that need not be there. On many systems names that differ in case alone are

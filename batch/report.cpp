@@ -12,6 +12,7 @@ namespace batch
 
 using delivery::Damage;
 using delivery::ExchangeFile;
+using delivery::Replacement;
 using survey::Finding;
 using words::Language;
 using words::Speaking;
@@ -27,18 +28,12 @@ QJsonValue orNull(const QString &text)
     return text.isEmpty() ? QJsonValue() : QJsonValue(text);
 }
 
-QString nameOf(survey::Level level)
-{
-    const Speaking english(Language::English);
-    return words::levelWord(level);
-}
-
 QJsonObject toJson(const Finding &finding)
 {
     const bool isSomewhere = finding.position.line > 0;
     return {
         {QStringLiteral("kind"), QLatin1String(survey::infoOf(finding.kind).name)},
-        {QStringLiteral("level"), nameOf(finding.level)},
+        {QStringLiteral("level"), words::levelWord(finding.level)},
         {QStringLiteral("line"), isSomewhere ? finding.position.line : QJsonValue()},
         {QStringLiteral("column"), isSomewhere ? finding.position.column : QJsonValue()},
         {QStringLiteral("exact"), finding.isExact},
@@ -59,16 +54,16 @@ QJsonValue dialectOf(const survey::Survey &survey)
     }
 }
 
-QJsonValue nameOf(Outcome::File file)
+QJsonValue nameOf(std::optional<Replacement::Outcome> file)
 {
-    switch (file) {
-    case Outcome::File::None:
-        break;
-    case Outcome::File::Created:
+    if (!file)
+        return {};
+    switch (*file) {
+    case Replacement::Outcome::Created:
         return QStringLiteral("created");
-    case Outcome::File::Replaced:
+    case Replacement::Outcome::Replaced:
         return QStringLiteral("replaced");
-    case Outcome::File::Kept:
+    case Replacement::Outcome::Kept:
         return QStringLiteral("kept");
     }
     return {};
@@ -139,17 +134,6 @@ QString damageInWords(const ExchangeFile &file)
     return {};
 }
 
-/// What an exchange file holds, in the terms of a survey.
-survey::Counts countsOf(const ExchangeFile &file)
-{
-    survey::Counts counts;
-    counts.goods = file.goods;
-    counts.partners = file.partners;
-    counts.documents = file.documents;
-    counts.lines = file.lines;
-    return counts;
-}
-
 /// What a source should have brought into one: there goods and offers look the same.
 survey::Counts asInFile(survey::Counts counts)
 {
@@ -173,6 +157,14 @@ QJsonObject toJson(const survey::Counts &counts)
 bool isRead(const Outcome &outcome)
 {
     return outcome.exitCode == delivery::Complete || outcome.exitCode == delivery::Incomplete;
+}
+
+bool hasAll(const Verification &verification)
+{
+    const survey::Counts &counts = verification.file.counts;
+    const survey::Counts wanted = asInFile(verification.wanted->survey.counts);
+    return counts.goods == wanted.goods && counts.partners == wanted.partners &&
+           counts.documents == wanted.documents && counts.lines == wanted.lines;
 }
 
 QJsonObject toJson(const Outcome &outcome)
@@ -214,14 +206,15 @@ QStringList toLines(const Outcome &outcome)
     const survey::Survey &survey = outcome.survey;
     const bool isAboutSource =
         outcome.destination.isNull() || outcome.exitCode == delivery::NotRead;
-    QStringList lines = {summary(
-        isAboutSource && outcome.exitCode == delivery::NotWritten ? verdictOn(delivery::NotRead)
-                                                                  : verdictOn(outcome.exitCode),
-        isAboutSource ? outcome.source : outcome.destination,
-        {isRead(outcome) ? words::countsInWords(survey.counts) : QString(),
-         words::levelsInWords(survey), words::sentence(outcome.reason),
-         outcome.file == Outcome::File::Kept && isRead(outcome) ? Words::tr("the same as before")
-                                                                : QString()})};
+    QStringList lines = {summary(isAboutSource && outcome.exitCode == delivery::NotWritten
+                                     ? verdictOn(delivery::NotRead)
+                                     : verdictOn(outcome.exitCode),
+                                 isAboutSource ? outcome.source : outcome.destination,
+                                 {isRead(outcome) ? words::countsInWords(survey.counts) : QString(),
+                                  words::levelsInWords(survey), words::sentence(outcome.reason),
+                                  outcome.file == Replacement::Outcome::Kept && isRead(outcome)
+                                      ? Words::tr("the same as before")
+                                      : QString()})};
     QMap<survey::Kind, int> shown;
     for (const Finding &finding : survey.findings) {
         lines.append(toLine(finding));
@@ -239,7 +232,7 @@ QJsonObject toJson(const Verification &verification)
 {
     const Speaking english(Language::English);
     const ExchangeFile &file = verification.file;
-    QJsonObject object = toJson(countsOf(file));
+    QJsonObject object = toJson(file.counts);
     object.insert(QStringLiteral("format"), format);
     object.insert(QStringLiteral("file"), verification.path);
     object.insert(QStringLiteral("exit"), verification.exitCode);
@@ -274,14 +267,11 @@ QStringList toLines(const Verification &verification)
     QString comparison;
     if (verification.wanted && !isRead(*verification.wanted)) {
         comparison = whyNotRead(*verification.wanted);
-    } else if (verification.wanted) {
+    } else if (verification.wanted && !hasAll(verification)) {
         const survey::Counts wanted = asInFile(verification.wanted->survey.counts);
-        if (toJson(wanted) != toJson(countsOf(file)))
-            comparison =
-                Words::tr("of the source it should have %1").arg(words::countsInWords(wanted));
+        comparison = Words::tr("of the source it should have %1").arg(words::countsInWords(wanted));
     }
-    QStringList lines = {
-        summary(verdict, path, {words::countsInWords(countsOf(file)), comparison})};
+    QStringList lines = {summary(verdict, path, {words::countsInWords(file.counts), comparison})};
     if (file.damage != Damage::None)
         lines.append(QStringLiteral("  %1: %2").arg(file.line).arg(damageInWords(file)));
     return lines;

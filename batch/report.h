@@ -28,6 +28,9 @@ struct Verification {
 /// Whether a source was read, so that its counts say something.
 bool isRead(const Outcome &outcome);
 
+/// Whether the file has all that its source should have brought there, which was read.
+bool hasAll(const Verification &verification);
+
 // For programs: the texts in it are in English.
 QJsonObject toJson(const Outcome &outcome);
 QJsonObject toJson(const Verification &verification);

@@ -9,13 +9,6 @@ namespace batch
 
 using namespace delivery;
 
-/// Whether the file has what the source should have brought there.
-static bool hasAll(const ExchangeFile &file, const survey::Counts &counts)
-{
-    return file.goods == counts.goods + counts.offers && file.partners == counts.partners &&
-           file.documents == counts.documents && file.lines == counts.lines;
-}
-
 /// What the source would bring there; nothing if an interrupt came instead.
 static std::optional<Outcome> survey(const Options &options)
 {
@@ -44,7 +37,7 @@ int verify(const Options &options, Output &output)
                 return Interrupts::exitCode();
             if (!isRead(*verification.wanted))
                 verification.exitCode = NotRead;
-            else if (!hasAll(verification.file, verification.wanted->survey.counts))
+            else if (!hasAll(verification))
                 verification.exitCode = Incomplete;
         }
         output.tell(verification);

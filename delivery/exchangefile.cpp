@@ -29,21 +29,25 @@ enum class Place {
 
 struct BlockInfo {
     Block markers;
-    const char *firstKey; ///< that it begins with; empty: any
-    int ExchangeFile::*count;
+    QLatin1String firstKey; ///< that it begins with; empty: any
+    int survey::Counts::*count;
     Place from;
     Place to;
 };
 
 /// Which blocks may stand where, and what stands behind them.
 const std::array<BlockInfo, 7> blocks = {{
-    {exchange::goodsBlock, "code:", &ExchangeFile::goods, Place::Goods, Place::Goods},
-    {exchange::partnerBlock, "code:", &ExchangeFile::partners, Place::Goods, Place::Partner},
-    {exchange::partnerBlock, "code:", &ExchangeFile::partners, Place::Documents, Place::Partner},
-    {exchange::partnerBlock, "code:", &ExchangeFile::partners, Place::Partner, Place::Partner},
-    {exchange::orderBlock, "number:", &ExchangeFile::documents, Place::Partner, Place::Order},
-    {exchange::goodsBlock, "code:", &ExchangeFile::lines, Place::Order, Place::Line},
-    {exchange::itemBlock, "", nullptr, Place::Line, Place::Order},
+    {exchange::goodsBlock, exchange::codeKey, &survey::Counts::goods, Place::Goods, Place::Goods},
+    {exchange::partnerBlock, exchange::codeKey, &survey::Counts::partners, Place::Goods,
+     Place::Partner},
+    {exchange::partnerBlock, exchange::codeKey, &survey::Counts::partners, Place::Documents,
+     Place::Partner},
+    {exchange::partnerBlock, exchange::codeKey, &survey::Counts::partners, Place::Partner,
+     Place::Partner},
+    {exchange::orderBlock, QLatin1String("number:"), &survey::Counts::documents, Place::Partner,
+     Place::Order},
+    {exchange::goodsBlock, exchange::codeKey, &survey::Counts::lines, Place::Order, Place::Line},
+    {exchange::itemBlock, {}, nullptr, Place::Line, Place::Order},
 }};
 
 bool isLine(const QByteArray &line, QLatin1String text)
@@ -142,11 +146,11 @@ private:
         const bool isFirst = number == blockLine + 1;
         const bool wasEndOfText =
             std::exchange(isEndOfText, isInText && isLine(line, exchange::freeText.end));
-        if (isFirst && !line.startsWith(block->firstKey))
+        if (isFirst && !line.startsWith(QByteArray(block->firstKey.data(), block->firstKey.size())))
             note(Damage::StrayLine, number);
         if (isLine(line, block->markers.end) && (!isInText || wasEndOfText)) {
             if (block->count != nullptr)
-                ++(file.*block->count);
+                ++(file.counts.*block->count);
             place = block->to;
             block = nullptr;
             return;

@@ -3,6 +3,8 @@
 // What an exchange file holds, and whether it is whole.
 #pragma once
 
+#include "survey/survey.h"
+
 #include <QString>
 
 namespace delivery
@@ -23,11 +25,9 @@ struct ExchangeFile {
     Damage damage = Damage::None;
     int line = 0; ///< that shows the damage, or where what is open begins
 
-    // What it holds.
-    int goods = 0; ///< of catalogues and offers
-    int partners = 0;
-    int documents = 0;
-    int lines = 0; ///< of documents
+    /// What it holds, in the terms of a survey. Goods and offers look the same there: all are
+    /// goods.
+    survey::Counts counts;
 
     bool isWhole() const { return message.isNull() && damage == Damage::None; }
 };

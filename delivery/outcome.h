@@ -8,6 +8,8 @@
 
 #include <QString>
 
+#include <optional>
+
 namespace delivery
 {
 
@@ -43,19 +45,14 @@ struct Reason {
 };
 
 struct Outcome {
-    enum class File {
-        None, ///< there is none at the destination
-        Created,
-        Replaced,
-        Kept
-    };
-
     QString source;
     QString destination; ///< null: the source was only checked
     int exitCode = Complete;
     survey::Survey survey; ///< empty where there is none
-    File file = File::None;
-    Reason reason; ///< where no finding tells it
+    Reason reason;         ///< where no finding tells it
+
+    /// What came of the file at the destination; nothing if there is none.
+    std::optional<Replacement::Outcome> file;
 };
 
 } // namespace delivery

@@ -4,34 +4,9 @@
 #include <QCryptographicHash>
 #include <QFile>
 #include <QFileInfo>
-#include <QList>
-
-#include <utility>
 
 namespace delivery
 {
-
-static QList<Replacement *> &replacements()
-{
-    static QList<Replacement *> all;
-    return all;
-}
-
-Replacement::Replacement(QString destination) : destination(std::move(destination))
-{
-    replacements().append(this);
-}
-
-Replacement::~Replacement()
-{
-    replacements().removeOne(this);
-}
-
-void Replacement::discardAll()
-{
-    for (Replacement *replacement : std::as_const(replacements()))
-        replacement->discard();
-}
 
 bool Replacement::fail(Hindrance hindrance, const QString &text)
 {

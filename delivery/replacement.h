@@ -8,6 +8,8 @@
 #include <QByteArray>
 #include <QString>
 
+#include <utility>
+
 namespace delivery
 {
 
@@ -17,12 +19,8 @@ namespace delivery
 class Replacement
 {
 public:
-    explicit Replacement(QString destination);
-
-    /// Removes a new file that was not committed.
-    ~Replacement();
-
-    Q_DISABLE_COPY(Replacement)
+    /// The destructor removes a new file that was not committed.
+    explicit Replacement(QString destination) : destination(std::move(destination)) {}
 
     enum class Hindrance {
         None,
@@ -54,7 +52,7 @@ public:
     enum class Outcome {
         Created,  ///< there was no old file
         Replaced, ///< the old one
-        Kept      ///< it has these very bytes
+        Kept      ///< as it was: for commit(), it has these very bytes
     };
 
     /// Puts the new file, which has `size` bytes of this digest and is no longer written, in place.
@@ -64,9 +62,6 @@ public:
 
     /// Removes the new file.
     void discard() { created.remove(); }
-
-    /// discard() for all of this process: for an end that no destructor sees.
-    static void discardAll();
 
     Hindrance hindrance() const { return why; }
 

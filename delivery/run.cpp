@@ -202,14 +202,10 @@ void Run::commit(Running &running, const survey::Conversion &conversion)
         running.fail(NotWritten, {Reason::Kind::Loss});
     } else if (!isDropTooLarge(running, outcome.survey.counts)) {
         Replacement::Outcome replaced = {};
-        if (!running.replacement->commit(conversion.size, conversion.digest, options.keep,
-                                         replaced)) {
+        if (running.replacement->commit(conversion.size, conversion.digest, options.keep, replaced))
+            outcome.file = replaced;
+        else
             running.failByHindrance();
-            return;
-        }
-        outcome.file = replaced == Replacement::Outcome::Created    ? Outcome::File::Created
-                       : replaced == Replacement::Outcome::Replaced ? Outcome::File::Replaced
-                                                                    : Outcome::File::Kept;
     }
 }
 
@@ -226,8 +222,8 @@ bool Run::isDropTooLarge(Running &running, const survey::Counts &counts) const
         running.fail(NotWritten, {kind, {}, {}, before, now});
         return true;
     };
-    return falls(Reason::Kind::FewerGoods, old.goods, counts.goods + counts.offers) ||
-           falls(Reason::Kind::FewerDocuments, old.documents, counts.documents);
+    return falls(Reason::Kind::FewerGoods, old.counts.goods, counts.goods + counts.offers) ||
+           falls(Reason::Kind::FewerDocuments, old.counts.documents, counts.documents);
 }
 
 /// The job is over: its outcome is told as soon as those before it are.
@@ -236,8 +232,8 @@ void Run::finish(int id)
     Running &over = jobs[std::size_t(id)];
     const bool isOldFileThere =
         !over.job.destination.isNull() && QFileInfo::exists(over.job.destination);
-    if (over.outcome.file == Outcome::File::None && isOldFileThere)
-        over.outcome.file = Outcome::File::Kept;
+    if (!over.outcome.file && isOldFileThere)
+        over.outcome.file = Replacement::Outcome::Kept;
     over.replacement.reset();
     over.isOver = true;
     for (; told < jobs.size() && jobs[told].isOver; ++told) {
@@ -254,10 +250,10 @@ void Run::showProgress()
 {
     if (!progressed || told == jobs.size())
         return;
-    double done = 0;
-    for (const Running &running : jobs)
-        done += running.isOver ? 1 : running.share;
-    progressed(done / double(jobs.size()), jobs[told].job.source);
+    auto over = double(told);
+    for (std::size_t i = told; i < started; ++i)
+        over += jobs[i].isOver ? 1 : jobs[i].share;
+    progressed(over / double(jobs.size()), jobs[told].job.source);
 }
 
 } // namespace delivery

@@ -100,12 +100,6 @@ void Workers::work()
     giving.start(0);
 }
 
-bool Workers::areIdle() const
-{
-    return std::none_of(workers.cbegin(), workers.cend(),
-                        [](const auto &worker) { return worker->order.has_value(); });
-}
-
 void Workers::stop()
 {
     isStopped = true;
@@ -153,7 +147,7 @@ void Workers::give(const Order &order)
             return;
         if (worker.process.processId() <= 0) {
             worker.process.forgetIfMissing();
-            failToStart(worker, QString());
+            failToStart(worker);
             return;
         }
         tieToThisProcess(worker.process);
@@ -170,20 +164,16 @@ Workers::Worker &Workers::add()
     process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     QObject::connect(&process, &QProcess::readyReadStandardOutput, &process,
                      [this, &worker] { hear(worker); });
-    QObject::connect(
-        &process, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), &process,
-        [this, &worker](int code, QProcess::ExitStatus status) {
-            hear(worker);
-            worker.state = Worker::State::Gone;
-            const QString how = status == QProcess::CrashExit ? QStringLiteral("crashed with %1")
-                                                              : QStringLiteral("ended with %1");
-            end(worker, worker.isLate ? Ending::Kind::TimedOut : Ending::Kind::Died, how.arg(code));
-        });
+    QObject::connect(&process, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished),
+                     &process, [this, &worker] {
+                         hear(worker);
+                         worker.state = Worker::State::Gone;
+                         end(worker, worker.isLate ? Ending::Kind::TimedOut : Ending::Kind::Died);
+                     });
     QObject::connect(&process, &QProcess::errorOccurred, &process,
                      [this, &worker](QProcess::ProcessError error) {
-                         if (error != QProcess::FailedToStart)
-                             return;
-                         failToStart(worker, worker.process.errorString());
+                         if (error == QProcess::FailedToStart)
+                             failToStart(worker);
                      });
     worker.timer.setSingleShot(true);
     QObject::connect(&worker.timer, &QTimer::timeout, &process, [&worker] {
@@ -194,14 +184,14 @@ Workers::Worker &Workers::add()
 }
 
 /// With fewer workers the order may be carried out all the same.
-void Workers::failToStart(Worker &worker, const QString &message)
+void Workers::failToStart(Worker &worker)
 {
     worker.state = Worker::State::Gone;
     const auto others = std::count_if(workers.cbegin(), workers.cend(), [&](const auto &other) {
         return other.get() != &worker && other->order.has_value();
     });
     if (others == 0) {
-        end(worker, Ending::Kind::NotStarted, message);
+        end(worker, Ending::Kind::NotStarted);
         return;
     }
     worker.timer.stop();
@@ -223,15 +213,14 @@ void Workers::hear(Worker &worker)
         } else if (reply.answer) {
             if (worker.bytes >= mostBytes || reply.answer->survey.outOfMemory)
                 worker.leave();
-            end(worker, Ending::Kind::Answered, QString(), *reply.answer);
+            end(worker, Ending::Kind::Answered, *reply.answer);
         } else {
             worker.process.end();
         }
     }
 }
 
-void Workers::end(Worker &worker, Ending::Kind kind, const QString &message,
-                  const survey::Conversion &answer)
+void Workers::end(Worker &worker, Ending::Kind kind, const survey::Conversion &answer)
 {
     worker.timer.stop();
     if (!worker.order)
@@ -239,7 +228,7 @@ void Workers::end(Worker &worker, Ending::Kind kind, const QString &message,
     const int id = worker.order->id;
     worker.order.reset();
     const bool isLoaded = worker.latest.total > 0 && worker.latest.done >= worker.latest.total;
-    ended(id, {kind, answer, !isLoaded, message});
+    ended(id, {kind, answer, !isLoaded});
     work();
 }
 

@@ -29,7 +29,6 @@ struct Ending {
     Kind kind = Kind::Answered;
     survey::Conversion answer; ///< of the worker, if it gave one
     bool wasLoading = false;   ///< otherwise: all of the source had not been read yet
-    QString message;           ///< what the system says, in English or the language of the system
 };
 
 /// Has processes carry out orders, several at a time. They are started as they are needed, and each
@@ -63,9 +62,6 @@ public:
     /// Has free workers ask for orders, as soon as the event loop gets to it.
     void work();
 
-    /// Whether no order is being carried out.
-    bool areIdle() const;
-
     /// Ends all workers at once. Nothing is told of their orders any more.
     void stop();
 
@@ -75,10 +71,9 @@ private:
     void giveOrders();
     void give(const Order &order);
     Worker &add();
-    void failToStart(Worker &worker, const QString &message);
+    void failToStart(Worker &worker);
     void hear(Worker &worker);
-    void end(Worker &worker, Ending::Kind kind, const QString &message,
-             const survey::Conversion &answer = {});
+    void end(Worker &worker, Ending::Kind kind, const survey::Conversion &answer = {});
 
     Setup setup;
     std::vector<std::unique_ptr<Worker>> workers;

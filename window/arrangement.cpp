@@ -34,22 +34,16 @@ std::vector<bool> groupsBelow(const Source &source, int group)
 }
 
 /// Rising or falling; what is equal stays in its order.
-template <typename Key, typename Less>
-void sortBy(std::vector<std::pair<Key, int>> &keyed, Qt::SortOrder order, const Less &less)
-{
-    std::stable_sort(keyed.begin(), keyed.end(), [&](const auto &a, const auto &b) {
-        return order == Qt::AscendingOrder ? less(a.first, b.first) : less(b.first, a.first);
-    });
-}
-
-template <typename Key, typename KeyOf, typename Less>
-void sortWith(QVector<int> &places, Qt::SortOrder order, const KeyOf &keyOf, const Less &less)
+template <typename Key, typename KeyOf>
+void sortBy(QVector<int> &places, Qt::SortOrder order, const KeyOf &keyOf)
 {
     std::vector<std::pair<Key, int>> keyed;
     keyed.reserve(std::size_t(places.size()));
     for (const int place : std::as_const(places))
         keyed.emplace_back(keyOf(place), place);
-    sortBy(keyed, order, less);
+    std::stable_sort(keyed.begin(), keyed.end(), [order](const auto &a, const auto &b) {
+        return order == Qt::AscendingOrder ? a.first < b.first : b.first < a.first;
+    });
     std::transform(keyed.cbegin(), keyed.cend(), places.begin(),
                    [](const auto &one) { return one.second; });
 }
@@ -80,17 +74,16 @@ QVector<int> arranged(const Source &source, const Arrangement &arrangement,
     };
     if (field == GoodField::Prices || field == GoodField::Weight) {
         constexpr double none = std::numeric_limits<double>::infinity(); // comes last
-        sortWith<double>(
-            places, arrangement.order,
-            [&](int place) { return numberIn(text(place)).value_or(none); }, std::less<>());
+        sortBy<double>(places, arrangement.order,
+                       [&](int place) { return numberIn(text(place)).value_or(none); });
     } else {
         QCollator collator;
         collator.setNumericMode(true);
-        constexpr int longest =
-            200; // Paths of groups can be far longer, and there is a key for each good.
-        sortWith<QCollatorSortKey>(
-            places, arrangement.order,
-            [&](int place) { return collator.sortKey(text(place).left(longest)); }, std::less<>());
+        // Paths of groups can be far longer, and there is a key for each good.
+        constexpr int longest = 200;
+        sortBy<QCollatorSortKey>(places, arrangement.order, [&](int place) {
+            return collator.sortKey(text(place).left(longest));
+        });
     }
     return places;
 }

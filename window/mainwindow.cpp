@@ -416,7 +416,7 @@ void MainWindow::convert(const QString &destination)
 
 void MainWindow::tellOutcome(const delivery::Outcome &outcome)
 {
-    using File = delivery::Outcome::File;
+    using File = delivery::Replacement::Outcome;
     const QString file = QDir::toNativeSeparators(outcome.destination);
     QStringList lines;
     const QString reason = words::sentence(outcome.reason);

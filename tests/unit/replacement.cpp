@@ -297,17 +297,6 @@ private slots:
 #endif
     }
 
-    void discardAll()
-    {
-        Replacement first(at("one"));
-        Replacement second(at("two"));
-        Replacement idle(at("three"));
-        QVERIFY(first.prepare(at("source")) && second.prepare(at("source")));
-        QCOMPARE(names().size(), 3);
-        Replacement::discardAll();
-        QCOMPARE(names(), QStringList("source"));
-    }
-
     /// Many create, hold, and remove a file of one name, and some leave it unlocked.
     void locksAreExclusive()
     {
