@@ -63,6 +63,8 @@ std::optional<QString> Export::path(const QDomElement &id) const
         if (found.flaw == flaw)
             doubted(id, doubt);
     }
+    if (observer != nullptr)
+        observer->inGroup(found);
     return unlessEmpty(found.text);
 }
 

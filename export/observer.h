@@ -4,6 +4,7 @@
 #pragma once
 
 #include "exchange/format.h"
+#include "reader/pathindex.h"
 
 #include <QDomElement>
 #include <QString>
@@ -65,6 +66,9 @@ public:
 
     /// An item is left out, wholly or, for a document, from the point that `loss` tells.
     virtual void leftOut(ItemKind kind, const QDomElement &element, Loss loss) = 0;
+
+    /// The item that is reported next is in the group or category that this path leads to.
+    virtual void inGroup(const PathIndex::Path & /*path*/) {}
 
     /// There is a doubt about the item that is reported next.
     virtual void doubted(const QDomElement &element, Doubt doubt) = 0;

@@ -39,6 +39,17 @@ using PictureLink = QPair<QString, QString>;
 /// line. No operation throws, unless memory runs out behind loadSource(): closeOutput() is all that
 /// the reader is good for then. All lookups of children take the first direct child of exactly the
 /// name; texts are not trimmed.
+///
+/// What a host, a program other than xml2ryk, should know:
+/// - A reader is for one source. Of an earlier one stay the dialect, where the new root is of
+///   another name, and the tree, beside the new one, until readStructure().
+/// - The tree stays in memory as long as the reader: with Qt 5.15, 6 to 7 times the size of a
+///   CommerceML file, and 13 times that of a YML feed. The exporters append to goodsRows until
+///   openOutput(), readStructure() or closeOutput() empties them.
+/// - openOutput() waits for a key on standard input where the file can't be opened, and a window
+///   stands still until then. survey::convert() writes the same bytes and never waits; or convert
+///   in a process whose standard input is empty.
+/// - loadSource() and readStructure() have the thread's waiting events handled on their way.
 class CommXmlReader
 {
 public:

@@ -12,6 +12,11 @@
 struct SourcePosition {
     int line = 0;
     int column = 0;
+
+    bool operator<(const SourcePosition &other) const
+    {
+        return line != other.line ? line < other.line : column < other.column;
+    }
 };
 
 /// Why a source was not loaded.

@@ -4,7 +4,6 @@
 #include "reader/tree.h"
 
 #include <QCryptographicHash>
-#include <QStringList>
 
 #include <algorithm>
 #include <tuple>
@@ -32,11 +31,22 @@ PathIndex::Path PathIndex::path(const QList<QDomNode> &sections, const QString &
         return *known;
 
     Path path = {QLatin1String(""), Flaw::UnknownKey};
-    const QMap<int, QDomNode> found = firstNodes(key);
-    for (auto node = found.cbegin(); node != found.cend() && path.text.isEmpty(); ++node)
-        path = pathTo(visit(node.value(), node.key()));
+    if (const Node *const node = visitFirst(key)) {
+        path.flaw = node->flaw;
+        path.bottom = node->bottom;
+        if (path.bottom != nullptr)
+            path.text = names(*path.bottom).join(pathSeparator);
+    }
     paths.insert(key, path);
     return path;
+}
+
+const PathIndex::Node *PathIndex::bottom(const QList<QDomNode> &sections, const QString &key)
+{
+    if (sections != indexed)
+        build(sections);
+    const Node *const node = visitFirst(key);
+    return node != nullptr ? node->bottom : nullptr;
 }
 
 void PathIndex::clear()
@@ -122,6 +132,18 @@ QDomNode PathIndex::nodeIn(int section, const QString &key) const
     return isFound ? place->node : QDomNode();
 }
 
+/// The first node with this key that has a path; without one, the last node, or null if there is
+/// none.
+const PathIndex::Node *PathIndex::visitFirst(const QString &key)
+{
+    const Node *node = nullptr;
+    const QMap<int, QDomNode> found = firstNodes(key);
+    for (auto first = found.cbegin();
+         first != found.cend() && (node == nullptr || node->bottom == nullptr); ++first)
+        node = visit(first.value(), first.key());
+    return node;
+}
+
 /// The node with all above it, each looked at unless it is known.
 const PathIndex::Node *PathIndex::visit(const QDomNode &first, int section)
 {
@@ -170,11 +192,11 @@ void PathIndex::closeLoop(const Way &way)
     });
 }
 
-PathIndex::Path PathIndex::pathTo(const Node *node)
+QStringList PathIndex::names(const Node &bottom)
 {
     QStringList names;
     const Node *loop = nullptr;
-    for (const Node *next = node->bottom; next != nullptr && next != loop; next = next->above) {
+    for (const Node *next = &bottom; next != nullptr && next != loop; next = next->above) {
         names.append(next->name.value_or(QString()));
         if (next->isInLoop && loop == nullptr)
             loop = next;
@@ -182,5 +204,5 @@ PathIndex::Path PathIndex::pathTo(const Node *node)
     while (!names.isEmpty() && names.first().isEmpty())
         names.removeFirst();
     std::reverse(names.begin(), names.end());
-    return {QLatin1String("") + names.join(pathSeparator), node->flaw};
+    return names;
 }

@@ -6,6 +6,7 @@
 #include <QList>
 #include <QMap>
 #include <QString>
+#include <QStringList>
 #include <QVector>
 
 #include <optional>
@@ -50,10 +51,21 @@ public:
         Loop,          ///< the parents lead back to where the path has been: it begins there
     };
 
+    /// A node with all above it, for those who tell paths by their names. It stays until the index
+    /// is cleared, or the sections are others.
+    struct Node {
+        std::optional<QString> name;
+        const Node *above = nullptr;  // null at the top and below a node without a name
+        const Node *bottom = nullptr; // where the path to the node ends; null if it is empty
+        bool isInLoop = false;
+        Flaw flaw = Flaw::None;
+    };
+
     struct Path {
         /// The names from the top down. Those at the end that are empty are left out.
         QString text; // never null
         Flaw flaw;
+        const Node *bottom = nullptr; ///< where it ends; null if it is empty
     };
 
     explicit PathIndex(const Kind &kind) : kind(kind) {}
@@ -61,6 +73,12 @@ public:
     /// The path that the first of these sections gives, in which something has this key and a path
     /// that is not empty. Empty if none does.
     Path path(const QList<QDomNode> &sections, const QString &key);
+
+    /// Where that path ends, which costs less than all of it; null if it is empty.
+    const Node *bottom(const QList<QDomNode> &sections, const QString &key);
+
+    /// The names of the path that ends at a node, from the top down.
+    static QStringList names(const Node &bottom);
 
     /// Forgets the sections and their document.
     void clear();
@@ -72,14 +90,6 @@ private:
         QByteArray digest; // of the key
     };
 
-    struct Node {
-        std::optional<QString> name;
-        const Node *above = nullptr;  // null at the top and below a node without a name
-        const Node *bottom = nullptr; // where the path to the node ends; null if it is empty
-        bool isInLoop = false;
-        Flaw flaw = Flaw::None;
-    };
-
     using Places = QVector<Place>;
     using Way = QVector<Node *>;
 
@@ -88,10 +98,10 @@ private:
     Places::const_iterator find(const QByteArray &digest, int section) const;
     QMap<int, QDomNode> firstNodes(const QString &key) const;
     QDomNode nodeIn(int section, const QString &key) const;
+    const Node *visitFirst(const QString &key);
     const Node *visit(const QDomNode &first, int section);
     static void closeLoop(const Way &way);
     static bool hasName(const Node *node) { return !node->name.value_or(QString()).isEmpty(); }
-    static Path pathTo(const Node *node);
 
     Kind kind;
     QList<QDomNode> indexed;

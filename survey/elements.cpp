@@ -61,8 +61,12 @@ QString codeOf(const QDomElement &item)
 class Walk
 {
 public:
-    Walk(const QList<QDomNode> &groupSections, SourceDialect dialect, const Collector &collector)
-        : groupSections(groupSections), isYml(dialect == YmlDialect), collector(collector)
+    Walk(const QList<QDomNode> &groupSections, SourceDialect dialect, const Collector &collector,
+         bool wantsElements)
+        : groupSections(groupSections),
+          isYml(dialect == YmlDialect),
+          collector(collector),
+          wantsElements(wantsElements)
     {
         for (const Mark &mark : collector.marks)
             places.emplace(mark.element, 0);
@@ -112,6 +116,8 @@ private:
             visit(element,
                   {false, around.isInGroups || isSection, isSection,
                    isDocument ? collector.lostDocuments.count(identity) > 0 : around.isLost});
+            if (wantsElements && collector.reported.count(identity) > 0)
+                found.items.append({identity, place, next});
         }
     }
 
@@ -120,8 +126,11 @@ private:
     {
         const bool isGroup = isYml ? around.isSectionOfGroups && name == QLatin1String("category")
                                    : around.isInGroups && name == commerceml::groupElement;
-        if (isGroup)
+        if (isGroup) {
             ++found.groups;
+            if (wantsElements)
+                found.groupElements.append(element);
+        }
 
         const auto colon = name.lastIndexOf(u':');
         const Meaning meaning = meaningOf(QStringView(name).mid(colon + 1));
@@ -143,6 +152,7 @@ private:
     const QList<QDomNode> &groupSections;
     const bool isYml;
     const Collector &collector;
+    const bool wantsElements;
     std::unordered_map<const void *, int> places; // of the elements with marks
     int next = 0;
     int nextSection = 0;
@@ -152,9 +162,9 @@ private:
 } // namespace
 
 Elements walkElements(const QDomDocument &document, const QList<QDomNode> &groupSections,
-                      SourceDialect dialect, const Collector &collector)
+                      SourceDialect dialect, const Collector &collector, bool wantsElements)
 {
-    return Walk(groupSections, dialect, collector).walk(document);
+    return Walk(groupSections, dialect, collector, wantsElements).walk(document);
 }
 
 } // namespace survey

@@ -17,13 +17,25 @@ struct PlacedMark {
     Mark mark;
 };
 
+/// An item that an exporter came to, and the places of its element and of the next one that is not
+/// within it.
+struct PlacedItem {
+    const void *element;
+    int begin;
+    int end;
+};
+
 struct Elements {
     QVector<PlacedMark> marks; ///< in document order; of one element, by kind
     int groups = 0;            ///< or categories
+
+    // Only if they are wanted.
+    QVector<PlacedItem> items;
+    QVector<QDomElement> groupElements; ///< in document order
 };
 
 /// Looks at all elements of a document, whose exports `collector` has heard of.
 Elements walkElements(const QDomDocument &document, const QList<QDomNode> &groupSections,
-                      SourceDialect dialect, const Collector &collector);
+                      SourceDialect dialect, const Collector &collector, bool wantsElements);
 
 } // namespace survey

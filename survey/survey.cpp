@@ -6,39 +6,21 @@
 #include "survey/collector.h"
 #include "survey/elements.h"
 #include "survey/encoding.h"
+#include "survey/filestate.h"
 #include "survey/loadfailure.h"
 
 #include <QCryptographicHash>
-#include <QDateTime>
 #include <QFileInfo>
 
 #include <algorithm>
+#include <limits>
 #include <new>
-#include <tuple>
 
 namespace survey
 {
 
 namespace
 {
-
-/// What tells a file that somebody else has written to, from what it was.
-struct FileState {
-    explicit FileState(const QFileInfo &file)
-        : isFile(file.isFile()), size(isFile ? file.size() : 0), time(file.lastModified())
-    {
-    }
-
-    /// A pipe has no state, and changes while it is read.
-    bool differs(const FileState &other) const
-    {
-        return isFile && (size != other.size || time != other.time);
-    }
-
-    bool isFile;
-    qint64 size;
-    QDateTime time;
-};
 
 /// The attributes of a root that tell the version of its format and the date of the export.
 struct RootAttributes {
@@ -71,8 +53,8 @@ public:
         if (loadSource(request.source)) {
             if (request.keepsTree)
                 keepTree(document);
-            if (request.tree != nullptr)
-                *request.tree = document;
+            if (request.loaded != nullptr)
+                request.loaded->tree = document;
             readStructure();
             if (goesOn(before.size))
                 exportAll();
@@ -84,11 +66,9 @@ public:
         }
         if (FileState(QFileInfo(request.source)).differs(before))
             add(Kind::Changed);
-        std::stable_sort(result.findings.begin(), result.findings.end(),
-                         [](const Finding &a, const Finding &b) {
-                             return std::tie(a.position.line, a.position.column) <
-                                    std::tie(b.position.line, b.position.column);
-                         });
+        std::stable_sort(
+            result.findings.begin(), result.findings.end(),
+            [](const Finding &a, const Finding &b) { return a.position < b.position; });
         return result;
     }
 
@@ -189,12 +169,17 @@ private:
 
     void tellOfDocument()
     {
-        const Elements elements = walkElements(document, groups, dialect, *this);
+        const Elements elements =
+            walkElements(document, groups, dialect, *this, request.loaded != nullptr);
         for (const PlacedMark &placed : elements.marks) {
             const Mark &mark = placed.mark;
             add({mark.kind, infoOf(mark.kind).level, following.positions.value(placed.element),
                  !following.positionsAreEnds, mark.code, mark.details});
         }
+        for (const PlacedItem &item : elements.items)
+            request.loaded->items.emplace(item.element, extentOf(item));
+        if (request.loaded != nullptr)
+            request.loaded->groups = elements.groupElements;
         tellOfHead(elements.groups);
         QFile file(request.source);
         if (before.isFile && file.open(QIODevice::ReadOnly))
@@ -210,6 +195,13 @@ private:
                  {rootElement.tagName()}});
         else if (hasLoss() || !request.allowEmpty)
             add(Kind::Empty);
+    }
+
+    Extent extentOf(const PlacedItem &item) const
+    {
+        constexpr SourcePosition behindAll = {std::numeric_limits<int>::max(), 0};
+        return {following.positions.value(item.begin),
+                following.positions.value(item.end, behindAll)};
     }
 
     void tellOfHead(int groupCount)

@@ -13,6 +13,7 @@
 #include <QVector>
 
 #include <functional>
+#include <unordered_map>
 
 namespace survey
 {
@@ -43,6 +44,22 @@ struct Survey {
     bool outOfMemory = false;
 };
 
+/// From the position of an element to that of the next one which is not within it.
+struct Extent {
+    SourcePosition begin;
+    SourcePosition end;
+};
+
+/// By identityOf().
+using Extents = std::unordered_map<const void *, Extent>;
+
+/// What a survey has read, for who goes on with it.
+struct Loaded {
+    QDomDocument tree;
+    Extents items;               ///< all that exports come to, be they left out or not
+    QVector<QDomElement> groups; ///< or categories, in document order
+};
+
 struct Request {
     QString source;
     bool purchase = false;    ///< documents are purchases
@@ -51,8 +68,8 @@ struct Request {
     QSet<Kind> accepted = {}; ///< losses that are doubts
     bool keepsTree = false;   ///< never frees what it loads: for a process that ends soon
 
-    /// Gets what is loaded, for who goes on with it; null: nobody does. Nothing else has it then.
-    QDomDocument *tree = nullptr;
+    /// Gets what is loaded; null: nobody wants it. Nothing else has the tree then.
+    Loaded *loaded = nullptr;
 
     /// Asked every now and then, with the bytes of the source that have been read and those that
     /// there are, 0 if nobody knows. False stops it.

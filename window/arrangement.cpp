@@ -73,9 +73,12 @@ QVector<int> arranged(const Source &source, const Arrangement &arrangement,
         return source.goods.at(place).field(field);
     };
     if (field == GoodField::Prices || field == GoodField::Weight) {
-        constexpr double none = std::numeric_limits<double>::infinity(); // comes last
-        sortBy<double>(places, arrangement.order,
-                       [&](int place) { return numberIn(text(place)).value_or(none); });
+        constexpr double none = std::numeric_limits<double>::infinity(); // comes last, either way
+        const int sign = arrangement.order == Qt::AscendingOrder ? 1 : -1;
+        sortBy<double>(places, Qt::AscendingOrder, [&](int place) {
+            const std::optional<double> number = numberIn(text(place));
+            return number ? sign * *number : none;
+        });
     } else {
         QCollator collator;
         collator.setNumericMode(true);

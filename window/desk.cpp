@@ -34,11 +34,22 @@ void Desk::arrange(const Arrangement &arrangement,
     const auto isStopped = std::make_shared<std::atomic_bool>(false);
     isOutdated = isStopped;
     const auto places = std::make_shared<QVector<int>>();
-    background.run([=, source = shown] { *places = arranged(*source, arrangement, *isStopped); },
-                   [=, tell = std::move(tell)] {
-                       if (!*isStopped)
-                           tell(*places);
-                   });
+    const auto isOut = std::make_shared<bool>(false);
+    const auto work = [=, source = shown] {
+        try {
+            *places = arranged(*source, arrangement, *isStopped);
+        } catch (const std::bad_alloc &) {
+            *isOut = true;
+        }
+    };
+    background.run(work, [=, tell = std::move(tell)] {
+        if (*isStopped)
+            return;
+        if (*isOut)
+            ranOut();
+        else
+            tell(*places);
+    });
 }
 
 void Desk::collect(const std::function<void(SourceReader &reader)> &collect,
@@ -52,7 +63,7 @@ void Desk::collect(const std::function<void(SourceReader &reader)> &collect,
         try {
             collect(*lent->reader);
         } catch (const std::bad_alloc &) {
-            lent->reader->forgetRows();
+            lent->reader.reset(); // it is good for nothing then
             *isOut = true;
         }
     };

@@ -26,15 +26,16 @@ public:
     Opened replace(Opened opened);
     void putAway(Opened opened);
 
+    /// Told where memory ran out while goods were arranged or rows collected.
+    std::function<void()> ranOut;
+
     /// The latest one counts: those before it are not told of any more.
     void arrange(const Arrangement &arrangement,
                  std::function<void(const QVector<int> &places)> tell);
 
-    /// Whether rows can be collected: there is a source, and none are being collected.
+    /// Whether rows can be collected: there is a source, none are being collected, and memory never
+    /// ran out while some were: what is left of the reader is dropped then.
     bool hasReader() const { return reader != nullptr; }
-
-    /// Told where memory ran out while rows were collected.
-    std::function<void()> ranOut;
 
     /// Has the reader collect rows there, and tells of it here, unless there is another source
     /// then.

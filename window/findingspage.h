@@ -25,8 +25,8 @@ public:
 
     void show(const SourcePointer &newSource);
 
-    /// Those that are shown, as a table for other programs.
-    QByteArray toCsv() const { return findings.toCsv(); }
+    /// All of them, whichever kind is shown, as a table for other programs.
+    QByteArray toCsv() const;
 
     void save(QSettings &settings) const;
     void restore(const QSettings &settings);

@@ -6,6 +6,7 @@
 #include "words/language.h"
 
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QTreeView>
 #include <QVBoxLayout>
@@ -17,10 +18,24 @@ using words::Words;
 namespace window
 {
 
+/// A tree that is expanded no deeper than the view bears, which calls itself for each level.
+class GroupsView : public QTreeView
+{
+protected:
+    void keyPressEvent(QKeyEvent *event) override
+    {
+        constexpr int levels = 50;
+        if (event->key() == Qt::Key_Asterisk)
+            expandRecursively(currentIndex(), levels);
+        else
+            QTreeView::keyPressEvent(event);
+    }
+};
+
 GoodsPage::GoodsPage(Desk &desk)
     : desk(desk),
       filterField(new QLineEdit),
-      groupsView(new QTreeView),
+      groupsView(new GroupsView),
       goodsView(tableView(goods, Words::tr("Goods"))),
       description(new TextView),
       columns(new QSplitter),
@@ -39,8 +54,8 @@ GoodsPage::GoodsPage(Desk &desk)
     description->setAccessibleName(Words::tr("Description"));
     description->setPlaceholderText(Words::tr("No description"));
     goodsView->horizontalHeader()->setSortIndicatorShown(true);
-    goodsView->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
     goodsView->horizontalHeader()->setSectionsClickable(true);
+    sortAsInSource();
 
     rows->addWidget(goodsView);
     rows->addWidget(description);
@@ -84,30 +99,43 @@ void GoodsPage::showSource()
     arrange();
 }
 
-bool GoodsPage::chooseCode(const QString &code)
+void GoodsPage::goTo(int place)
 {
-    constexpr int most = 1000; // more take a view too long
-    QVector<int> places;
-    const QVector<Good> &all = desk.source()->goods;
-    for (int place = 0; place < all.size() && places.size() < most; ++place) {
-        if (all.at(place).field(GoodField::Code) == code)
-            places.append(place);
-    }
-    if (places.isEmpty())
-        return false;
     filterField->clear();
-    groupsView->setCurrentIndex({});
-    arrange(places);
-    return true;
+    groupsView->setCurrentIndex(groups.index(0, 0));
+    arrange(place);
+    goodsView->setFocus();
 }
 
 QVector<int> GoodsPage::chosen() const
 {
+    // The toolkit looks through all ranges for each row of them.
     QVector<int> places;
-    for (const QModelIndex &index : goodsView->selectionModel()->selectedRows())
-        places.append(goods.placeAt(index.row()));
+    for (const QItemSelectionRange &range : goodsView->selectionModel()->selection()) {
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            places.append(goods.placeAt(row));
+    }
     std::sort(places.begin(), places.end());
+    places.erase(std::unique(places.begin(), places.end()), places.end());
     return places;
+}
+
+QItemSelection GoodsPage::rowsOf(const QVector<int> &places) const
+{
+    QItemSelection ranges;
+    const auto isWanted = [&](int row) {
+        return row < goods.rowCount() &&
+               std::binary_search(places.cbegin(), places.cend(), goods.placeAt(row));
+    };
+    const int lastColumn = goods.columnCount() - 1;
+    for (int row = 0; !places.isEmpty() && row < goods.rowCount(); ++row) {
+        const int first = row;
+        while (isWanted(row))
+            ++row;
+        if (row > first)
+            ranges.append({goods.index(first, 0), goods.index(row - 1, lastColumn)});
+    }
+    return ranges;
 }
 
 void GoodsPage::filter()
@@ -127,7 +155,72 @@ void GoodsPage::sortByCurrentColumn()
     header->setSortIndicator(current.column(), isRising ? Qt::DescendingOrder : Qt::AscendingOrder);
 }
 
-void GoodsPage::arrange(const QVector<int> &toChoose)
+void GoodsPage::sortAsInSource()
+{
+    goodsView->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
+}
+
+bool GoodsPage::isColumnShown(int column) const
+{
+    return !goodsView->isColumnHidden(column);
+}
+
+void GoodsPage::showColumn(int column)
+{
+    goodsView->showColumn(column);
+    if (goodsView->columnWidth(column) == 0)
+        goodsView->resizeColumnToContents(column);
+}
+
+void GoodsPage::hideColumn(int column)
+{
+    int beside = columnBeside(column, 1);
+    if (beside < 0)
+        beside = columnBeside(column, -1);
+    if (beside < 0)
+        return;
+    // Or else the keyboard would be in a column that nobody sees.
+    const QModelIndex current = goodsView->currentIndex();
+    if (current.column() == column)
+        goodsView->selectionModel()->setCurrentIndex(current.siblingAtColumn(beside),
+                                                     QItemSelectionModel::NoUpdate);
+    goodsView->hideColumn(column);
+}
+
+void GoodsPage::showAllColumns()
+{
+    for (int column = 0; column < goods.columnCount(); ++column)
+        showColumn(column);
+}
+
+void GoodsPage::hideCurrentColumn()
+{
+    if (goodsView->currentIndex().isValid())
+        hideColumn(goodsView->currentIndex().column());
+}
+
+void GoodsPage::moveCurrentColumn(int step)
+{
+    const QModelIndex current = goodsView->currentIndex();
+    const int beside = current.isValid() ? columnBeside(current.column(), step) : -1;
+    if (beside < 0)
+        return;
+    QHeaderView *const header = goodsView->horizontalHeader();
+    header->moveSection(header->visualIndex(current.column()), header->visualIndex(beside));
+    goodsView->scrollTo(current);
+}
+
+int GoodsPage::columnBeside(int column, int step) const
+{
+    const QHeaderView *const header = goodsView->horizontalHeader();
+    int place = header->visualIndex(column);
+    do
+        place += step;
+    while (place >= 0 && place < header->count() && !isColumnShown(header->logicalIndex(place)));
+    return header->logicalIndex(place);
+}
+
+void GoodsPage::arrange(std::optional<int> toChoose)
 {
     Arrangement arrangement;
     arrangement.text = filterField->text();
@@ -141,27 +234,22 @@ void GoodsPage::arrange(const QVector<int> &toChoose)
                  [this, toChoose](const QVector<int> &places) { show(places, toChoose); });
 }
 
-void GoodsPage::show(const QVector<int> &places, const QVector<int> &toChoose)
+void GoodsPage::show(const QVector<int> &places, std::optional<int> toChoose)
 {
     const int row = currentRow(*goodsView);
     const int column = std::max(goodsView->currentIndex().column(), 0);
-    const QVector<int> current = !toChoose.isEmpty() ? toChoose
-                                 : row >= 0          ? QVector<int>{goods.placeAt(row)}
-                                                     : QVector<int>();
+    const QVector<int> toSelect = toChoose ? QVector<int>{*toChoose} : chosen();
+    if (!toChoose && row >= 0)
+        toChoose = goods.placeAt(row);
     goods.show(desk.source(), places);
-    QItemSelection selection;
-    for (int newRow = 0; newRow < goods.rowCount(); ++newRow) {
-        if (!std::binary_search(current.cbegin(), current.cend(), goods.placeAt(newRow)))
-            continue;
-        const QModelIndex index = goods.index(newRow, column);
-        if (selection.isEmpty())
-            goodsView->setCurrentIndex(index);
-        selection.select(index, index);
-    }
-    goodsView->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect |
-                                                       QItemSelectionModel::Rows);
-    if (!selection.isEmpty())
+    QItemSelectionModel *const selection = goodsView->selectionModel();
+    selection->select(rowsOf(toSelect), QItemSelectionModel::ClearAndSelect);
+    const auto newRow = toChoose ? places.indexOf(*toChoose) : -1;
+    if (newRow >= 0) {
+        // The view itself would heed the keys that are held down.
+        selection->setCurrentIndex(goods.index(int(newRow), column), QItemSelectionModel::NoUpdate);
         goodsView->scrollTo(goodsView->currentIndex());
+    }
     showDescription();
     if (changed)
         changed();

@@ -5,6 +5,7 @@
 #include "window/groupsmodel.h"
 #include "window/tables.h"
 
+#include <QItemSelection>
 #include <QWidget>
 
 class QLineEdit;
@@ -30,8 +31,8 @@ public:
     /// Shows what is on the desk.
     void showSource();
 
-    /// Shows all goods, and chooses those with this code. False if there are none.
-    bool chooseCode(const QString &code);
+    /// Shows all goods, and goes to this one of Source::goods.
+    void goTo(int place);
 
     /// The places of the chosen goods in Source::goods, rising.
     QVector<int> chosen() const;
@@ -40,6 +41,14 @@ public:
 
     void filter(); ///< brings the keyboard to the filter
     void sortByCurrentColumn();
+    void sortAsInSource();
+
+    bool isColumnShown(int column) const;
+    void showColumn(int column);
+    void hideColumn(int column); ///< unless no other one is shown
+    void showAllColumns();
+    void hideCurrentColumn();
+    void moveCurrentColumn(int step); ///< 1 to the right, -1 to the left
 
     QTableView &table() const { return *goodsView; }
 
@@ -47,9 +56,16 @@ public:
     void restore(const QSettings &settings);
 
 private:
-    void arrange(const QVector<int> &toChoose = {});
-    void show(const QVector<int> &places, const QVector<int> &toChoose);
+    /// `toChoose`: what is to be the current good then, in place of that which is.
+    void arrange(std::optional<int> toChoose = {});
+    void show(const QVector<int> &places, std::optional<int> toChoose);
     void showDescription();
+
+    /// The rows that show any of these places, which are in rising order.
+    QItemSelection rowsOf(const QVector<int> &places) const;
+
+    /// The nearest column that is shown beside this one; -1 if there is none.
+    int columnBeside(int column, int step) const;
 
     Desk &desk;
     GoodsModel goods;

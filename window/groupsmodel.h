@@ -10,7 +10,7 @@
 namespace window
 {
 
-/// All goods, and the groups that they are in, each with the number of its goods.
+/// All goods, and the groups, each with the number of its goods.
 class GroupsModel : public QAbstractItemModel
 {
 public:

@@ -3,6 +3,7 @@
 
 #include "words/language.h"
 
+#include <QAccessible>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -22,6 +23,7 @@ InfoBar::InfoBar() : label(new QLabel), button(new QPushButton)
     label->setForegroundRole(QPalette::ToolTipText);
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
+    label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a path may have no blanks
     label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     auto *const close = new QPushButton(Words::tr("Close message"));
     auto *const layout = new QHBoxLayout(this);
@@ -46,10 +48,13 @@ void InfoBar::offer(const QString &text, const QString &buttonText, std::functio
 {
     label->setText(text);
     label->setAccessibleName(text);
+    label->setToolTip(text);
     button->setText(buttonText);
     button->setVisible(!buttonText.isEmpty());
     accept = std::move(accepted);
     show();
+    QAccessibleEvent told(label, QAccessible::Alert);
+    QAccessible::updateAccessibility(&told);
 }
 
 QString InfoBar::text() const

@@ -12,11 +12,13 @@
 #include "words/outcomes.h"
 
 #include <QAction>
+#include <QClipboard>
 #include <QCloseEvent>
 #include <QDir>
 #include <QDragEnterEvent>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QLabel>
 #include <QMenuBar>
@@ -40,27 +42,28 @@ namespace window
 {
 
 static const QString recentKey = QStringLiteral("recent");
+static const QString destinationKey = QStringLiteral("destinationFolder");
+constexpr int mostRecent = 9;
 
-/// The errors of a source, each with its place.
+/// A finding with its place.
+static QString inWords(const survey::Finding &finding)
+{
+    const QString place = placeInWords(finding.position);
+    const QString sentence = words::sentence(finding);
+    return place.isEmpty() ? sentence : place + QLatin1String(": ") + sentence;
+}
+
+/// The errors of a source.
 static QStringList errorsOf(const survey::Survey &survey)
 {
     QStringList lines;
     for (const survey::Finding &finding : survey.findings) {
-        if (finding.level != survey::Level::Error)
-            continue;
-        const QString place = placeInWords(finding.position);
-        const QString sentence = words::sentence(finding);
-        lines.append(place.isEmpty() ? sentence : place + QLatin1String(": ") + sentence);
+        if (finding.level == survey::Level::Error)
+            lines.append(inWords(finding));
     }
     if (lines.isEmpty() && survey.outOfMemory)
         lines.append(Words::tr("memory ran out"));
     return lines;
-}
-
-MainWindow::FileState MainWindow::FileState::of(const QString &path)
-{
-    const QFileInfo info(path);
-    return info.isFile() ? FileState{info.size(), info.lastModified()} : FileState();
 }
 
 MainWindow::MainWindow(QSettings &settings)
@@ -93,7 +96,12 @@ MainWindow::MainWindow(QSettings &settings)
     setWindowTitle(QStringLiteral("xml2ryk"));
 
     desk.ranOut = [this] {
-        tell(Words::tr("memory ran out"));
+        if (desk.hasReader())
+            tell(Words::tr("memory ran out"));
+        else
+            offerToRead(
+                Words::tr("Memory ran out. Nothing more can be copied of the source until it "
+                          "is read again."));
         showState();
     };
     loader.opened = [this](Opened opened) { showOpened(std::move(opened)); };
@@ -101,7 +109,10 @@ MainWindow::MainWindow(QSettings &settings)
     orders->changed = [this] { showState(); };
     findings->activated = [this](const survey::Finding &finding) { showFinding(finding); };
     connect(stopButton, &QPushButton::clicked, stopAction, &QAction::trigger);
-    const auto soon = [this] { changeTimer.start(); };
+    const auto soon = [this] {
+        if (!changeTimer.isActive()) // or else it would never end where something writes often
+            changeTimer.start();
+    };
     constexpr int settled = 500; // until whoever writes the file is likely to be done
     changeTimer.setInterval(settled);
     changeTimer.setSingleShot(true);
@@ -152,8 +163,7 @@ void MainWindow::addFileMenu()
     QMenu *const menu = menuBar()->addMenu(Words::tr("&File"));
     add(menu, QStringLiteral("open"), Words::tr("&Open..."), QKeySequence::Open,
         [this] { askForSource(); });
-    recentMenu = menu->addMenu(Words::tr("Open &recent"));
-    connect(recentMenu, &QMenu::aboutToShow, this, [this] { fillRecent(); });
+    addRecentMenu(menu);
     readAgainAction = add(menu, QStringLiteral("readAgain"), Words::tr("Read &again"), Qt::Key_F5,
                           [this] { readAgain(); });
     stopAction =
@@ -166,7 +176,7 @@ void MainWindow::addFileMenu()
                         QStringLiteral("Ctrl+E"), [this] { askForDestination(); });
     saveFindingsAction =
         add(menu, QStringLiteral("saveFindings"), Words::tr("Save &findings as a table..."),
-            QKeySequence::Save, [this] { saveFindings(); });
+            QKeySequence::Save, [this] { askWhereToSave(); });
     menu->addSeparator();
     add(menu, QStringLiteral("quit"), Words::tr("&Quit"), QStringLiteral("Ctrl+Q"),
         [this] { close(); });
@@ -192,6 +202,19 @@ void MainWindow::addCopyMenu()
     withGoodsAction->setChecked(true);
 }
 
+void MainWindow::addRecentMenu(QMenu *menu)
+{
+    recentMenu = menu->addMenu(Words::tr("Open &recent"));
+    for (int number = 1; number <= mostRecent; ++number) {
+        const int place = number - 1;
+        recentActions.append(add(recentMenu, QStringLiteral("recent%1").arg(number), QString(),
+                                 QStringLiteral("Alt+%1").arg(number), [this, place] {
+                                     open(recentActions.at(place)->data().toString());
+                                 }));
+    }
+    showRecent();
+}
+
 void MainWindow::addViewMenu()
 {
     QMenu *const menu = menuBar()->addMenu(Words::tr("&View"));
@@ -208,59 +231,91 @@ void MainWindow::addViewMenu()
         pages->setCurrentWidget(goods);
         goods->sortByCurrentColumn();
     });
-    columnsMenu = menu->addMenu(Words::tr("&Columns of goods"));
-    connect(columnsMenu, &QMenu::aboutToShow, this, [this] { fillColumns(); });
+    add(menu, QStringLiteral("unsort"), Words::tr("In the &order of the source"),
+        QStringLiteral("Shift+F6"), [this] {
+            pages->setCurrentWidget(goods);
+            goods->sortAsInSource();
+        });
+    addColumnsMenu(menu);
+}
+
+void MainWindow::addColumnsMenu(QMenu *menu)
+{
+    QMenu *const columns = menu->addMenu(Words::tr("&Columns of goods"));
+    const auto addForColumns = [this, columns](const QString &name, const QString &text,
+                                               const QKeySequence &key,
+                                               const std::function<void()> &change) {
+        return add(columns, name, text, key, [this, change] {
+            pages->setCurrentWidget(goods);
+            change();
+            showColumns();
+        });
+    };
+    addForColumns(QStringLiteral("hideColumn"), Words::tr("&Hide the current column"), Qt::Key_F7,
+                  [this] { goods->hideCurrentColumn(); });
+    addForColumns(QStringLiteral("showColumns"), Words::tr("Show &all columns"),
+                  QStringLiteral("Shift+F7"), [this] { goods->showAllColumns(); });
+    addForColumns(QStringLiteral("columnLeft"), Words::tr("Move the current column to the &left"),
+                  QStringLiteral("Alt+Left"), [this] { goods->moveCurrentColumn(-1); });
+    addForColumns(QStringLiteral("columnRight"), Words::tr("Move the current column to the &right"),
+                  QStringLiteral("Alt+Right"), [this] { goods->moveCurrentColumn(1); });
+    columns->addSeparator();
+    const QAbstractItemModel *const model = goods->table().model();
+    for (int column = 0; column < model->columnCount(); ++column) {
+        QAction *const action =
+            addForColumns(QStringLiteral("column%1").arg(column + 1),
+                          model->headerData(column, Qt::Horizontal).toString(),
+                          QStringLiteral("Ctrl+F%1").arg(column + 1), [this, column] {
+                              goods->isColumnShown(column) ? goods->hideColumn(column)
+                                                           : goods->showColumn(column);
+                          });
+        action->setCheckable(true);
+        columnActions.append(action);
+    }
     QHeaderView *const header = goods->table().horizontalHeader();
     header->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(header, &QWidget::customContextMenuRequested, this,
-            [this, header](const QPoint &at) { columnsMenu->popup(header->mapToGlobal(at)); });
+            [columns, header](const QPoint &at) { columns->popup(header->mapToGlobal(at)); });
 }
 
-void MainWindow::fillColumns()
+/// Brings the actions of columns up to date.
+void MainWindow::showColumns()
 {
-    columnsMenu->clear();
-    QTableView &table = goods->table();
-    for (int column = 0; column < table.model()->columnCount(); ++column) {
-        const QString heading = table.model()->headerData(column, Qt::Horizontal).toString();
-        QAction *const action = columnsMenu->addAction(heading);
-        action->setCheckable(true);
-        action->setChecked(!table.isColumnHidden(column));
-        connect(action, &QAction::toggled, this, [&table, column](bool isShown) {
-            table.setColumnHidden(column, !isShown);
-            if (isShown && table.columnWidth(column) == 0)
-                table.resizeColumnToContents(column);
-        });
-    }
+    for (int column = 0; column < columnActions.size(); ++column)
+        columnActions.at(column)->setChecked(goods->isColumnShown(column));
 }
 
-void MainWindow::fillRecent()
+/// Brings the actions of recent files up to date.
+void MainWindow::showRecent()
 {
-    recentMenu->clear();
-    int number = 0;
-    for (const QString &path : settings.value(recentKey).toStringList()) {
-        QString shown = QDir::toNativeSeparators(path);
-        shown.replace(u'&', QLatin1String("&&"));
-        const QAction *const action =
-            recentMenu->addAction(QStringLiteral("&%1 %2").arg(++number).arg(shown));
-        connect(action, &QAction::triggered, this, [this, path] { open(path); });
+    const QStringList paths = settings.value(recentKey).toStringList().mid(0, mostRecent);
+    recentMenu->setEnabled(!paths.isEmpty());
+    for (int place = 0; place < recentActions.size(); ++place) {
+        QAction *const action = recentActions.at(place);
+        QString text = QDir::toNativeSeparators(paths.value(place));
+        text.replace(u'&', QLatin1String("&&"));
+        action->setText(QStringLiteral("&%1 ").arg(place + 1) + text);
+        action->setData(paths.value(place));
+        action->setVisible(place < paths.size());
     }
-    if (recentMenu->isEmpty())
-        recentMenu->addAction(Words::tr("Nothing yet"))->setEnabled(false);
 }
 
 void MainWindow::addRecent(const QString &path)
 {
-    constexpr int most = 9;
     QStringList paths = settings.value(recentKey).toStringList();
     paths.removeAll(path);
     paths.prepend(path);
-    settings.setValue(recentKey, QStringList(paths.mid(0, most)));
+    settings.setValue(recentKey, QStringList(paths.mid(0, mostRecent)));
+    showRecent();
 }
 
 void MainWindow::askForSource()
 {
+    const QString shown = desk.source()->path;
+    const QString last =
+        shown.isEmpty() ? settings.value(recentKey).toStringList().value(0) : shown;
     const QString path = QFileDialog::getOpenFileName(
-        this, Words::tr("Open a source"), QFileInfo(desk.source()->path).path(),
+        this, Words::tr("Open a source"), QFileInfo(last).path(),
         Words::tr("Sources (*.xml *.yml)") + QLatin1String(";;") + Words::tr("All files (*)"));
     if (!path.isEmpty())
         open(path);
@@ -268,6 +323,13 @@ void MainWindow::askForSource()
 
 void MainWindow::open(const QString &path)
 {
+    const QFileInfo file(path);
+    if (file.exists() && !file.isFile() && !file.isDir()) {
+        // Reading it might never end.
+        tell(QDir::toNativeSeparators(path) + u'\n' +
+             words::systemWords(QStringLiteral("Not a regular file")));
+        return;
+    }
     infoBar->hide();
     loader.open(QFileInfo(path).absoluteFilePath(), purchaseAction->isChecked());
     showProgress();
@@ -276,17 +338,21 @@ void MainWindow::open(const QString &path)
 
 void MainWindow::readAgain()
 {
-    if (!desk.source()->path.isEmpty())
-        open(desk.source()->path);
+    const QString path = loader.isLoading() ? loader.path() : desk.source()->path;
+    if (!path.isEmpty())
+        open(path);
 }
 
 void MainWindow::stop()
 {
+    QStringList lines;
     if (loader.isLoading())
-        tell(Words::tr("The reading was stopped."));
+        lines.append(Words::tr("The reading was stopped."));
     loader.stop();
     if (conversion && !endTimer.isActive())
-        tell(Words::tr("The conversion was stopped; the destination is as it was."));
+        lines.append(Words::tr("The conversion was stopped; the destination is as it was."));
+    if (!lines.isEmpty())
+        tell(lines.join(u'\n'));
     endTimer.stop();
     conversion.reset();
     showProgress();
@@ -296,6 +362,11 @@ void MainWindow::stop()
 void MainWindow::tell(const QString &text)
 {
     infoBar->tell(text);
+}
+
+void MainWindow::offerToRead(const QString &text)
+{
+    infoBar->offer(text, Words::tr("&Read again"), [this] { readAgain(); });
 }
 
 void MainWindow::showOpened(Opened opened)
@@ -320,6 +391,8 @@ void MainWindow::showOpened(Opened opened)
     setWindowTitle(QFileInfo(path).fileName() + QLatin1String(" - xml2ryk"));
     addRecent(path);
     watch(path);
+    shownState = desk.source()->state;
+    changeTimer.start(); // it may have changed while it was read
     showState();
 }
 
@@ -338,57 +411,75 @@ void MainWindow::watch(const QString &path)
         watcher.removePaths(watched);
     // A file that is replaced by another one is no longer watched: its folder is.
     watcher.addPaths({path, QFileInfo(path).path()});
-    shownState = FileState::of(path);
 }
 
 void MainWindow::lookForChange()
 {
-    const QString path = desk.source()->path;
-    const FileState now = FileState::of(path);
-    if (now.size < 0 || loader.isLoading() || !(now != shownState))
+    if (loader.isLoading()) {
+        changeTimer.start();
         return;
+    }
+    const QString path = desk.source()->path;
+    const survey::FileState state{QFileInfo(path)};
+    if (!state.differs(shownState))
+        return;
+    shownState = state;
     watch(path);
-    infoBar->offer(Words::tr("The source has changed on the disk."), Words::tr("&Read again"),
-                   [this] { readAgain(); });
+    const QString change =
+        Words::tr("%1 has changed on the disk.").arg(QDir::toNativeSeparators(path));
+    QStringList lines = infoBar->text().split(u'\n', Qt::SkipEmptyParts); // which may be an error
+    lines.removeAll(change);
+    offerToRead((lines << change).join(u'\n'));
 }
 
 void MainWindow::showFinding(const survey::Finding &finding)
 {
-    if (finding.code.isEmpty())
-        return;
-    using survey::Kind;
-    const bool isAboutDocument = finding.kind == Kind::NoPartner ||
-                                 finding.kind == Kind::NoNumber || finding.kind == Kind::NoLines ||
-                                 finding.kind == Kind::OtherRole;
-    if (!isAboutDocument && goods->chooseCode(finding.code))
+    const Shown shown = shownAt(*desk.source(), finding.position);
+    if (shown.good >= 0) {
         pages->setCurrentWidget(goods);
-    else if (orders->chooseNumber(finding.code) || orders->chooseLine(finding.code))
+        goods->goTo(shown.good);
+    } else if (shown.order >= 0) {
         pages->setCurrentWidget(orders);
+        orders->goTo(shown.order, shown.line);
+    } else {
+        tell(Words::tr("No table shows what this is about.") + u'\n' + inWords(finding));
+    }
 }
 
-void MainWindow::saveFindings()
+void MainWindow::askWhereToSave()
 {
     const QString proposed = QFileInfo(desk.source()->path).path() + QLatin1String("/") +
                              QFileInfo(desk.source()->path).completeBaseName() +
                              QLatin1String("-findings.csv");
     const QString path = QFileDialog::getSaveFileName(this, Words::tr("Save findings as a table"),
                                                       proposed, Words::tr("Tables (*.csv)"));
-    if (path.isEmpty())
-        return;
+    if (!path.isEmpty())
+        saveFindings(path);
+}
+
+void MainWindow::saveFindings(const QString &path)
+{
+    using delivery::Reason;
+    using delivery::Replacement;
     QSaveFile file(path);
     const QByteArray csv = findings->toCsv();
-    if (file.open(QIODevice::WriteOnly) && file.write(csv) == csv.size() && file.commit())
+    const bool isSource = delivery::stateOf(path).isSameAs(delivery::stateOf(desk.source()->path));
+    if (!isSource && file.open(QIODevice::WriteOnly) && file.write(csv) == csv.size() &&
+        file.commit()) {
         tell(Words::tr("The findings are in %1.").arg(QDir::toNativeSeparators(path)));
-    else
-        tell(Words::tr("The findings could not be saved: %1")
-                 .arg(words::systemWords(file.errorString())));
+        return;
+    }
+    const Reason itself = {Reason::Kind::Hindered, Replacement::Hindrance::IsSource};
+    tell(Words::tr("The findings could not be saved: %1")
+             .arg(isSource ? words::sentence(itself) : words::systemWords(file.errorString())));
 }
 
 void MainWindow::askForDestination()
 {
     const QFileInfo source(desk.source()->path);
-    const QString proposed =
-        source.path() + QLatin1String("/") + source.completeBaseName() + QLatin1String(".txt");
+    const QString last = settings.value(destinationKey).toString();
+    const QString folder = !last.isEmpty() && QDir(last).exists() ? last : source.path();
+    const QString proposed = folder + u'/' + source.completeBaseName() + QLatin1String(".txt");
     const QString path = QFileDialog::getSaveFileName(this, Words::tr("Convert to"), proposed,
                                                       Words::tr("Exchange files (*.txt)"));
     if (!path.isEmpty())
@@ -398,8 +489,9 @@ void MainWindow::askForDestination()
 void MainWindow::convert(const QString &destination)
 {
     infoBar->hide();
+    settings.setValue(destinationKey, QFileInfo(destination).absolutePath());
     delivery::RunOptions options;
-    options.request.purchase = purchaseAction->isChecked();
+    options.request.purchase = desk.source()->purchase;
     options.jobs = 1;
     std::vector<delivery::Job> jobs = {{desk.source()->path, destination, {}}};
     conversion = std::make_unique<delivery::Run>(options, std::move(jobs));
@@ -471,16 +563,21 @@ void MainWindow::copyOrder()
 void MainWindow::putOnClipboard(SourceReader &reader)
 {
     const int count = reader.rowCount();
+    bool isCopied = count > 0;
     try {
-        if (count > 0)
+        if (isCopied)
             reader.copyRowsToClipboard();
     } catch (const std::bad_alloc &) {
         reader.forgetRows();
         desk.ranOut();
         return;
     }
-    tell(count > 0 ? Words::tr("%n line(s) are on the clipboard.", nullptr, count)
-                   : Words::tr("There is nothing to copy."));
+    // Elsewhere nobody can keep it open, and not each platform knows whose it is.
+    if (QGuiApplication::platformName() == QLatin1String("windows"))
+        isCopied = isCopied && QGuiApplication::clipboard()->ownsClipboard();
+    tell(isCopied    ? Words::tr("%n line(s) are on the clipboard.", nullptr, count)
+         : count > 0 ? Words::tr("Another program has the clipboard open.")
+                     : Words::tr("There is nothing to copy."));
     reader.forgetRows();
     showState();
 }
@@ -504,8 +601,11 @@ void MainWindow::showState()
 {
     const Source &source = *desk.source();
     const bool isOpen = !source.path.isEmpty();
-    readAgainAction->setEnabled(isOpen);
-    convertAction->setEnabled(isOpen && !conversion);
+    readAgainAction->setEnabled(isOpen || loader.isLoading());
+    if (isOpen && !loader.isLoading())
+        purchaseAction->setChecked(source.purchase); // where it was to be another one, and is not
+    // Nobody knows whether its documents are purchases while that may become another one.
+    convertAction->setEnabled(isOpen && !conversion && loader.path() != source.path);
     saveFindingsAction->setEnabled(isOpen);
     copyAllAction->setEnabled(desk.hasReader() && !source.goods.isEmpty());
     copyChosenAction->setEnabled(desk.hasReader() &&
@@ -550,6 +650,7 @@ void MainWindow::restoreSettings()
     goods->restore(settings);
     orders->restore(settings);
     findings->restore(settings);
+    showColumns();
     const auto isSet = [this](const char *key, bool usual) {
         return settings.value(QLatin1String(key), usual).toBool();
     };
@@ -572,10 +673,17 @@ static QString fileOf(const QMimeData *data)
     return urls.size() == 1 ? urls.first().toLocalFile() : QString();
 }
 
+/// Whatever the keys propose: who drags a file would remove one that was moved.
+static void acceptCopy(QDropEvent &event)
+{
+    event.setDropAction(Qt::CopyAction);
+    event.accept();
+}
+
 void MainWindow::dragEnterEvent(QDragEnterEvent *event)
 {
     if (!fileOf(event->mimeData()).isEmpty())
-        event->acceptProposedAction();
+        acceptCopy(*event);
 }
 
 void MainWindow::dropEvent(QDropEvent *event)
@@ -583,7 +691,7 @@ void MainWindow::dropEvent(QDropEvent *event)
     const QString path = fileOf(event->mimeData());
     if (path.isEmpty())
         return;
-    event->acceptProposedAction();
+    acceptCopy(*event);
     open(path);
 }
 

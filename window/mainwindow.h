@@ -2,10 +2,10 @@
 #pragma once
 
 #include "delivery/run.h"
+#include "survey/filestate.h"
 #include "window/desk.h"
 #include "window/loader.h"
 
-#include <QDateTime>
 #include <QFileSystemWatcher>
 #include <QKeySequence>
 #include <QMainWindow>
@@ -40,46 +40,40 @@ public:
     /// Tries to put the exchange file of the source there.
     void convert(const QString &destination);
 
+    /// Tries to put a table of the findings there.
+    void saveFindings(const QString &path);
+
 protected:
     void closeEvent(QCloseEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
 
 private:
-    /// What tells a file that has changed from what it was.
-    struct FileState {
-        qint64 size = -1;
-        QDateTime time;
-
-        static FileState of(const QString &path);
-        bool operator!=(const FileState &other) const
-        {
-            return size != other.size || time != other.time;
-        }
-    };
-
     QAction *add(QMenu *menu, const QString &name, const QString &text, const QKeySequence &key,
                  const std::function<void()> &triggered);
     void addMenus();
     void addFileMenu();
     void addCopyMenu();
+    void addRecentMenu(QMenu *menu);
     void addViewMenu();
+    void addColumnsMenu(QMenu *menu);
 
     void askForSource();
-    void readAgain();
+    void readAgain(); ///< what is being read, or else what is shown
     void stop();
     void showOpened(Opened opened);
     void tellErrors(const Source &source);
     void tell(const QString &text);
+    void offerToRead(const QString &text);
 
     void addRecent(const QString &path);
-    void fillRecent();
-    void fillColumns();
+    void showRecent();
+    void showColumns();
     void watch(const QString &path);
     void lookForChange();
 
     void showFinding(const survey::Finding &finding);
-    void saveFindings();
+    void askWhereToSave();
     void askForDestination();
     void tellOutcome(const delivery::Outcome &outcome);
     void askHowToCopy();
@@ -101,8 +95,8 @@ private:
     QFileSystemWatcher watcher;
     QTimer changeTimer;
     QTimer progressTimer;
-    QTimer endTimer; ///< of a conversion
-    FileState shownState;
+    QTimer endTimer;              ///< of a conversion
+    survey::FileState shownState; ///< or of the change that was told of since
 
     GoodsPage *goods;
     OrdersPage *orders;
@@ -114,7 +108,8 @@ private:
     QPushButton *stopButton;
     QLabel *state;
     QMenu *recentMenu = nullptr;
-    QMenu *columnsMenu = nullptr;
+    QVector<QAction *> recentActions;
+    QVector<QAction *> columnActions;
 
     QAction *readAgainAction = nullptr;
     QAction *stopAction = nullptr;

@@ -62,30 +62,12 @@ void OrdersPage::show(const SourcePointer &newSource)
     showCurrent();
 }
 
-bool OrdersPage::chooseNumber(const QString &number)
+void OrdersPage::goTo(int order, int line)
 {
-    for (int row = 0; row < source->orders.size(); ++row) {
-        if (source->orders.at(row).number == number) {
-            ordersView->selectRow(row);
-            return true;
-        }
-    }
-    return false;
-}
-
-bool OrdersPage::chooseLine(const QString &code)
-{
-    for (int row = 0; row < source->orders.size(); ++row) {
-        const QVector<OrderLine> &ofOrder = source->orders.at(row).lines;
-        for (int line = 0; line < ofOrder.size(); ++line) {
-            if (ofOrder.at(line).code != code)
-                continue;
-            ordersView->selectRow(row);
-            linesView->selectRow(line);
-            return true;
-        }
-    }
-    return false;
+    ordersView->selectRow(order);
+    if (line >= 0)
+        linesView->selectRow(line);
+    (line >= 0 ? linesView : ordersView)->setFocus();
 }
 
 int OrdersPage::current() const

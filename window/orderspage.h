@@ -27,11 +27,8 @@ public:
 
     void show(const SourcePointer &newSource);
 
-    /// False if there is no order with this number.
-    bool chooseNumber(const QString &number);
-
-    /// False if no order has a line with this code.
-    bool chooseLine(const QString &code);
+    /// Goes to this one of Source::orders, and to this line of it; -1: to none.
+    void goTo(int order, int line);
 
     /// In Source::orders; -1 if there is none.
     int current() const;

@@ -21,7 +21,7 @@ Chart goodsByGroup(const Source &source)
     QVector<Bar> bars;
     int grouped = 0;
     for (const Group &group : source.groups) {
-        if (group.parent >= 0)
+        if (group.parent >= 0 || group.goods == 0)
             continue;
         bars.append({words::printable(group.name), group.goods});
         grouped += group.goods;

@@ -22,7 +22,7 @@ public:
         for (const Chart &chart : charts) {
             spoken += chart.title + QLatin1String(": ");
             for (const Bar &bar : chart.bars)
-                spoken += QStringLiteral("%1 %2, ").arg(bar.label).arg(bar.count);
+                spoken += bar.label + u' ' + QString::number(bar.count) + QLatin1String(", ");
         }
         setAccessibleDescription(spoken);
         setMinimumSize(leastSize());

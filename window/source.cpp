@@ -6,6 +6,33 @@
 namespace window
 {
 
+Shown shownAt(const Source &source, const SourcePosition &position)
+{
+    Shown shown;
+    SourcePosition innermost;
+    const auto isFurtherIn = [&](const survey::Extent &extent) {
+        const bool isIt =
+            !(position < extent.begin) && position < extent.end && !(extent.begin < innermost);
+        if (isIt)
+            innermost = extent.begin;
+        return isIt;
+    };
+    for (int good = 0; good < source.goods.size(); ++good) {
+        if (isFurtherIn(source.goods.at(good).extent))
+            shown = {good, -1, -1};
+    }
+    for (int order = 0; order < source.orders.size(); ++order) {
+        if (isFurtherIn(source.orders.at(order).extent))
+            shown = {-1, order, -1};
+        const QVector<OrderLine> &lines = source.orders.at(order).lines;
+        for (int line = 0; line < lines.size(); ++line) {
+            if (isFurtherIn(lines.at(line).extent))
+                shown = {-1, order, line};
+        }
+    }
+    return shown;
+}
+
 std::optional<double> numberIn(const QString &field)
 {
     bool isNumber = false;

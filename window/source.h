@@ -4,6 +4,7 @@
 #pragma once
 
 #include "export/observer.h"
+#include "survey/filestate.h"
 #include "survey/survey.h"
 
 #include <QString>
@@ -28,15 +29,16 @@ enum class GoodField {
     Country,
     Weight,
     Picture, ///< its address
+    Note,    ///< that it is sold out, in words: it has no goods row then
 };
 
-constexpr int goodFieldCount = 11;
+constexpr int goodFieldCount = 12;
 
 struct Good {
     std::array<QString, goodFieldCount> fields;
     QString description;
-    int group = -1;         ///< in Source::groups; -1: it is in none
-    bool isSoldOut = false; ///< it has no goods row
+    survey::Extent extent = {};
+    int group = -1; ///< in Source::groups; -1: it is in none
 
     const QString &field(GoodField field) const { return fields[std::size_t(field)]; }
     QString &field(GoodField field) { return fields[std::size_t(field)]; }
@@ -55,6 +57,7 @@ struct OrderLine {
     QString quantity;
     QString price;
     QString sum;
+    survey::Extent extent = {};
     bool isExported = true;
 };
 
@@ -69,12 +72,12 @@ struct Order {
     QString partner;    ///< the name, or else the code
     QVector<KeyValue> partnerDetails;
     QVector<OrderLine> lines;
+    survey::Extent extent = {};
     bool isLost = false; ///< wholly or in part, by `loss`
     exporter::Loss loss = exporter::Loss::NoPartner;
 };
 
-/// A group or category that goods are in, or one above it. It has no path: those of a long chain
-/// would be far larger than the source.
+/// A group or category. It has no path: those of a long chain would be far larger than the source.
 struct Group {
     QString name;
     int parent = -1;
@@ -84,6 +87,8 @@ struct Group {
 
 struct Source {
     QString path;
+    survey::FileState state; ///< of the file, ahead of its reading
+    bool purchase = false;   ///< its documents are read as purchases
     survey::Survey survey;
     QVector<Good> goods;   ///< in the order of their export
     QVector<Order> orders; ///< one for each document
@@ -93,6 +98,16 @@ struct Source {
     std::array<int, 8> goodsByPrice = {};
     int goodsWithoutPrice = 0;
 };
+
+/// The good, or the order with its line, that the tables show; each is -1 if there is none.
+struct Shown {
+    int good = -1;
+    int order = -1;
+    int line = -1;
+};
+
+/// What is shown of the innermost element at a position of the source.
+Shown shownAt(const Source &source, const SourcePosition &position);
 
 /// The number that a price or a weight begins with, if there is one.
 std::optional<double> numberIn(const QString &field);

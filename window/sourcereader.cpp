@@ -4,14 +4,17 @@
 #include "export/commerceml/walks.h"
 #include "reader/tree.h"
 #include "reader/vocabulary.h"
+#include "words/language.h"
 
 #include <QHash>
+#include <QSet>
 
 #include <new>
 #include <utility>
 
 using namespace exchange;
 using namespace exporter;
+using words::Words;
 
 namespace window
 {
@@ -82,40 +85,28 @@ Good goodFrom(const Item &item)
     return good;
 }
 
-OrderLine lineFrom(const QDomElement &element)
-{
-    OrderLine line;
-    line.sum = textOf(element.firstChildElement(sumElement));
-    return line;
-}
-
-Order orderFrom(const QDomElement &document)
-{
-    Order order;
-    order.number = textOf(document.firstChildElement(commerceml::numberElement));
-    order.date = textOf(document.firstChildElement(QStringLiteral("Дата")));
-    order.sum = textOf(document.firstChildElement(sumElement));
-    return order;
-}
-
-/// The groups of goods, by the paths that the exchange file has of them.
+/// The groups of a source. Those of one path are one, as they are in the exchange file.
 class GroupTree
 {
 public:
-    /// The place of the group with this path.
-    int placeOf(const QString &path)
+    /// The place of the group at the end of a path.
+    int placeOf(const PathIndex::Node &bottom)
     {
-        // Goods of a group share the text of its path, which can be long.
-        const auto known = places.constFind(path.constData());
-        if (known != places.cend())
-            return *known;
         int place = -1;
-        for (decltype(path.size()) begin = 0; begin >= 0;) {
-            const auto end = path.indexOf(pathSeparator, begin);
-            place = childOf(place, path.mid(begin, end < 0 ? -1 : end - begin));
-            begin = end < 0 ? -1 : end + pathSeparator.size();
+        if (bottom.flaw == PathIndex::Flaw::Loop && !places.contains(&bottom)) {
+            for (const QString &name : PathIndex::names(bottom))
+                place = childOf(place, name);
+            places.insert(&bottom, place);
         }
-        places.insert(path.constData(), place);
+        QVector<const PathIndex::Node *> unknown;
+        const PathIndex::Node *node = &bottom;
+        for (; node != nullptr && !places.contains(node); node = node->above)
+            unknown.append(node);
+        place = places.value(node, -1);
+        for (auto next = unknown.crbegin(); next != unknown.crend(); ++next) {
+            place = childOf(place, (*next)->name.value_or(QString()));
+            places.insert(*next, place);
+        }
         return place;
     }
 
@@ -135,7 +126,7 @@ private:
         return place;
     }
 
-    QHash<const QChar *, int> places;
+    QHash<const PathIndex::Node *, int> places;
     QHash<std::pair<int, QString>, int> children;
 };
 
@@ -155,26 +146,33 @@ void countPrices(Source &source)
     }
 }
 
-/// Finds the groups of all goods.
-void findGroups(Source &source)
+void countGoods(QVector<Group> &groups, const QVector<Good> &goods)
 {
-    GroupTree tree;
-    for (Good &good : source.goods) {
-        const QString &path = std::as_const(good).field(GoodField::Group);
-        if (path.isEmpty())
-            continue;
-        good.group = tree.placeOf(path);
-        ++tree.groups[good.group].goods;
+    for (const Good &good : goods) {
+        if (good.group >= 0)
+            ++groups[good.group].goods;
     }
-    for (auto place = tree.groups.size() - 1; place >= 0; --place) {
-        const Group &group = tree.groups.at(place);
+    for (auto place = groups.size() - 1; place >= 0; --place) {
+        const Group &group = std::as_const(groups).at(place);
         if (group.parent >= 0)
-            tree.groups[group.parent].goods += group.goods;
+            groups[group.parent].goods += group.goods;
     }
-    source.groups = tree.groups;
 }
 
 } // namespace
+
+/// What becomes of a source.
+struct SourceReader::Description {
+    Source &source;
+    const survey::Loaded &loaded;
+    const std::function<bool()> &goesOn;
+    GroupTree tree = {};
+
+    // The next item.
+    const PathIndex::Node *group = nullptr;
+    QString note = {};
+    const QString soldOut = Words::tr("sold out"); // the same text for all
+};
 
 SourceReader::SourceReader(const QDomDocument &tree)
 {
@@ -184,21 +182,78 @@ SourceReader::SourceReader(const QDomDocument &tree)
     setObserver(this);
 }
 
-void SourceReader::describe(Source &source, bool purchase)
+OrderLine SourceReader::lineFrom(const QDomElement &element) const
 {
-    described = &source;
+    OrderLine line;
+    line.sum = textOf(element.firstChildElement(sumElement));
+    line.extent = extentOf(element);
+    return line;
+}
+
+Order SourceReader::orderFrom(const QDomElement &document) const
+{
+    Order order;
+    order.number = textOf(document.firstChildElement(commerceml::numberElement));
+    order.date = textOf(document.firstChildElement(QStringLiteral("Дата")));
+    order.sum = textOf(document.firstChildElement(sumElement));
+    order.extent = extentOf(document);
+    return order;
+}
+
+survey::Extent SourceReader::extentOf(const QDomElement &element) const
+{
+    const survey::Extents &extents = description->loaded.items;
+    const auto known = extents.find(identityOf(element));
+    return known != extents.end() ? known->second : survey::Extent();
+}
+
+bool SourceReader::describe(Source &source, const survey::Loaded &loaded,
+                            const std::function<bool()> &goesOn)
+try {
+    Description begun = {source, loaded, goesOn};
+    description = &begun;
+    addGroups();
     const CopyOptions all;
     exportKatalogs(all.prefixRows, all.withDescription, all.markHtml);
     exportPrices(all.prefixRows, all.withDescription, all.markHtml, all.extendedOffers,
                  /*applyFactor=*/false, /*priceFactor=*/1.0);
     Writer nowhere;
     commerceml::exportDocs(docs, exportTo(nowhere, groupIndex), /*withGoods=*/true,
-                           purchase ? 0 : 1);
+                           source.purchase ? 0 : 1);
     takePicture();
     goodsRows.clear();
-    described = nullptr;
-    findGroups(source);
+    description = nullptr;
+    source.groups = begun.tree.groups;
+    countGoods(source.groups, source.goods);
     countPrices(source);
+    return true;
+} catch (const Stopped &) {
+    return false;
+}
+
+void SourceReader::askWhetherToGoOn() const
+{
+    if (!description->goesOn())
+        throw Stopped();
+}
+
+/// Adds the groups that goods can be in, in the order of the source.
+void SourceReader::addGroups()
+{
+    const bool isYml = dialect == YmlDialect;
+    PathIndex &index = isYml ? categoryIndex : groupIndex;
+    QSet<QString> known;
+    for (const QDomElement &group : description->loaded.groups) {
+        const QString id = isYml ? attributeValue(group, QStringLiteral("id"))
+                                 : textOf(group.firstChildElement(commerceml::idElement));
+        if (id.isNull() || known.contains(id))
+            continue;
+        known.insert(id);
+        const PathIndex::Node *const bottom = index.bottom(groups, id);
+        // Each one in a loop has a path of its own through all of it.
+        if (bottom != nullptr && bottom->flaw != PathIndex::Flaw::Loop)
+            description->tree.placeOf(*bottom);
+    }
 }
 
 void SourceReader::collectRows(const CopyOptions &options, const QVector<int> *chosen)
@@ -242,8 +297,14 @@ void SourceReader::takePicture()
 {
     if (pictureLinks.isEmpty())
         return;
-    described->goods.last().field(GoodField::Picture) = pictureLinks.last().second;
+    description->source.goods.last().field(GoodField::Picture) = pictureLinks.last().second;
     pictureLinks.clear();
+}
+
+void SourceReader::inGroup(const PathIndex::Path &path)
+{
+    if (description != nullptr)
+        description->group = path.bottom;
 }
 
 void SourceReader::exported(const Item &item)
@@ -253,16 +314,22 @@ void SourceReader::exported(const Item &item)
         keepChosenRows(); // those of this one are yet to come
         ++goodsSeen;
     }
-    if (described == nullptr)
+    if (description == nullptr)
         return;
+    askWhetherToGoOn();
     goodsRows.clear();
+    const PathIndex::Node *const group = std::exchange(description->group, nullptr);
     if (isGood) {
         takePicture();
-        described->goods.append(goodFrom(item));
-        described->goods.last().isSoldOut = std::exchange(isSoldOut, false);
+        Good good = goodFrom(item);
+        good.extent = extentOf(item.element);
+        good.field(GoodField::Note) = std::exchange(description->note, QString());
+        if (group != nullptr)
+            good.group = description->tree.placeOf(*group);
+        description->source.goods.append(std::move(good));
         return;
     }
-    QVector<Order> &orders = described->orders;
+    QVector<Order> &orders = description->source.orders;
     switch (item.kind) {
     case ItemKind::Good:
     case ItemKind::Offer:
@@ -306,9 +373,10 @@ void SourceReader::exported(const Item &item)
 
 void SourceReader::leftOut(ItemKind kind, const QDomElement &element, Loss loss)
 {
-    if (described == nullptr)
+    if (description == nullptr)
         return;
-    QVector<Order> &orders = described->orders;
+    askWhetherToGoOn();
+    QVector<Order> &orders = description->source.orders;
     if (kind == ItemKind::OrderLine) {
         OrderLine line = lineFrom(element);
         line.name = textOf(element.firstChildElement(commerceml::nameElement));
@@ -325,35 +393,46 @@ void SourceReader::leftOut(ItemKind kind, const QDomElement &element, Loss loss)
 
 void SourceReader::doubted(const QDomElement & /*element*/, Doubt doubt)
 {
-    isSoldOut = isSoldOut || doubt == Doubt::SoldOut;
+    if (description != nullptr && doubt == Doubt::SoldOut)
+        description->note = description->soldOut;
 }
 
 Opened openSource(const QString &path, bool purchase,
                   const std::function<bool(qint64 done, qint64 total)> &goesOn)
 {
     auto source = std::make_shared<Source>();
+    const auto withoutItems = [&] {
+        source->goods.clear();
+        source->orders.clear();
+        source->groups.clear();
+        return Opened{source, nullptr};
+    };
     source->path = path;
+    source->state = survey::FileState(QFileInfo(path));
+    source->purchase = purchase;
     try {
-        QDomDocument tree;
+        survey::Loaded loaded;
         survey::Request request;
         request.source = path;
         request.purchase = purchase;
         request.all = true;
         request.goesOn = goesOn;
-        request.tree = &tree;
+        request.loaded = &loaded;
         source->survey = survey::check(request);
-        if (tree.isNull() || source->survey.stopped || source->survey.outOfMemory)
+        if (loaded.tree.isNull() || source->survey.stopped || source->survey.outOfMemory)
             return {source, nullptr};
-        auto reader = std::make_unique<SourceReader>(tree);
-        tree.clear();
-        reader->describe(*source, purchase);
+        auto reader = std::make_unique<SourceReader>(loaded.tree);
+        const auto describesOn = [&] {
+            return !goesOn || goesOn(source->state.size, source->state.size);
+        };
+        if (!reader->describe(*source, loaded, describesOn)) {
+            source->survey.stopped = true;
+            return withoutItems();
+        }
         return {source, std::move(reader)};
     } catch (const std::bad_alloc &) {
-        source->goods.clear();
-        source->orders.clear();
-        source->groups.clear();
         source->survey.outOfMemory = true;
-        return {source, nullptr};
+        return withoutItems();
     }
 }
 

@@ -31,8 +31,10 @@ class SourceReader : public CommXmlReader, private exporter::Observer
 public:
     explicit SourceReader(const QDomDocument &tree);
 
-    /// Adds goods, orders and groups to `source`.
-    void describe(Source &source, bool purchase);
+    /// Adds goods, orders and groups to `source`, from what a survey has read. `goesOn` is asked at
+    /// each item; where it says no, this is false, and neither source nor reader are of any use.
+    bool describe(Source &source, const survey::Loaded &loaded,
+                  const std::function<bool()> &goesOn);
 
     /// Fills goodsRows anew with the rows of the goods, or of `chosen` ones of Source::goods, which
     /// are in rising order.
@@ -47,14 +49,23 @@ public:
     void logMessage(const QString & /*text*/) override {}
 
 private:
+    struct Description;
+    struct Stopped {
+    }; ///< thrown through the walks
+
+    void inGroup(const PathIndex::Path &path) override;
     void exported(const exporter::Item &item) override;
     void leftOut(exporter::ItemKind kind, const QDomElement &element, exporter::Loss loss) override;
     void doubted(const QDomElement &element, exporter::Doubt doubt) override;
+    Order orderFrom(const QDomElement &document) const;
+    OrderLine lineFrom(const QDomElement &element) const;
+    survey::Extent extentOf(const QDomElement &element) const;
+    void askWhetherToGoOn() const;
+    void addGroups();
     void takePicture();
     void keepChosenRows();
 
-    Source *described = nullptr; ///< what describe() fills
-    bool isSoldOut = false;      ///< the next offer
+    Description *description = nullptr; ///< what describe() is at
 
     const QVector<int> *chosenGoods = nullptr; ///< what collectRows() keeps
     int goodsSeen = 0;

@@ -31,8 +31,7 @@ GoodsModel::GoodsModel()
               {QT_TRANSLATE_NOOP("Words", "Country"), field(GoodField::Country)},
               {QT_TRANSLATE_NOOP("Words", "Weight"), field(GoodField::Weight), 12, true},
               {QT_TRANSLATE_NOOP("Words", "Picture"), field(GoodField::Picture), 30},
-              {QT_TRANSLATE_NOOP("Words", "Note"),
-               [this](int row) { return good(row).isSoldOut ? Words::tr("sold out") : QString(); }},
+              {QT_TRANSLATE_NOOP("Words", "Note"), field(GoodField::Note)},
           };
       }())
 {
@@ -71,6 +70,9 @@ QString sentence(exporter::Loss loss)
 
 OrdersModel::OrdersModel()
     : TableModel({
+          {QT_TRANSLATE_NOOP("Words", "Not exported"),
+           [this](int row) { return order(row).isLost ? sentence(order(row).loss) : QString(); },
+           16},
           {QT_TRANSLATE_NOOP("Words", "Number"), [this](int row) { return order(row).number; }},
           {QT_TRANSLATE_NOOP("Words", "Date"), [this](int row) { return order(row).date; }},
           {QT_TRANSLATE_NOOP("Words", "Partner"), [this](int row) { return order(row).partner; },
@@ -80,9 +82,6 @@ OrdersModel::OrdersModel()
            30},
           {QT_TRANSLATE_NOOP("Words", "Status"), [this](int row) { return order(row).status; }},
           {QT_TRANSLATE_NOOP("Words", "Sum"), [this](int row) { return order(row).sum; }, 12, true},
-          {QT_TRANSLATE_NOOP("Words", "Not exported"),
-           [this](int row) { return order(row).isLost ? sentence(order(row).loss) : QString(); },
-           60},
       })
 {
 }
@@ -95,6 +94,11 @@ void OrdersModel::show(SourcePointer newSource)
 
 LinesModel::LinesModel()
     : TableModel({
+          {QT_TRANSLATE_NOOP("Words", "Not exported"),
+           [this](int row) {
+               return lines.at(row).isExported ? QString() : sentence(exporter::Loss::NoCode);
+           },
+           16},
           {QT_TRANSLATE_NOOP("Words", "Code"), [this](int row) { return lines.at(row).code; }, 20},
           {QT_TRANSLATE_NOOP("Words", "Name"), [this](int row) { return lines.at(row).name; }, 40},
           {QT_TRANSLATE_NOOP("Words", "Quantity"),
@@ -104,11 +108,6 @@ LinesModel::LinesModel()
            true},
           {QT_TRANSLATE_NOOP("Words", "Sum"), [this](int row) { return lines.at(row).sum; }, 12,
            true},
-          {QT_TRANSLATE_NOOP("Words", "Not exported"),
-           [this](int row) {
-               return lines.at(row).isExported ? QString() : sentence(exporter::Loss::NoCode);
-           },
-           60},
       })
 {
 }
@@ -159,14 +158,15 @@ KindsModel::KindsModel()
     : TableModel({
           {QT_TRANSLATE_NOOP("Words", "Level"),
            [this](int row) {
-               return row == 0 ? QString() : words::levelWord(first.at(row - 1).level);
+               return row == 0 ? QString() : words::levelWord(kinds.at(row - 1).level);
            }},
           {QT_TRANSLATE_NOOP("Words", "Count"),
-           [this](int row) { return QString::number(row == 0 ? count : counts.at(row - 1)); }, 12,
-           true},
-          {QT_TRANSLATE_NOOP("Words", "Finding"),
+           [this](int row) { return QString::number(row == 0 ? count : kinds.at(row - 1).count); },
+           12, true},
+          {QT_TRANSLATE_NOOP("Words", "Kind"),
            [this](int row) {
-               return row == 0 ? Words::tr("All findings") : words::sentence(first.at(row - 1));
+               return row == 0 ? Words::tr("All findings")
+                               : words::kindName(kinds.at(row - 1).kind);
            },
            80},
       })
@@ -177,17 +177,13 @@ void KindsModel::show(const SourcePointer &source)
 {
     const survey::Survey &survey = source->survey;
     startOver(1 + int(survey.found.size()), [&] {
-        first.clear();
-        counts.clear();
+        kinds.clear();
         count = 0;
-        QMap<survey::Kind, Finding> firsts;
-        for (const Finding &finding : survey.findings) {
-            if (!firsts.contains(finding.kind))
-                firsts.insert(finding.kind, finding);
-        }
+        QMap<survey::Kind, survey::Level> levels;
+        for (const Finding &finding : survey.findings)
+            levels.insert(finding.kind, finding.level);
         for (auto found = survey.found.cbegin(); found != survey.found.cend(); ++found) {
-            first.append(firsts.value(found.key()));
-            counts.append(found.value());
+            kinds.append({found.key(), levels.value(found.key()), found.value()});
             count += found.value();
         }
     });
@@ -195,7 +191,7 @@ void KindsModel::show(const SourcePointer &source)
 
 std::optional<survey::Kind> KindsModel::kindAt(int row) const
 {
-    return row <= 0 ? std::nullopt : std::optional(first.at(row - 1).kind);
+    return row <= 0 ? std::nullopt : std::optional(kinds.at(row - 1).kind);
 }
 
 QString placeInWords(const SourcePosition &position)

@@ -79,8 +79,13 @@ public:
     std::optional<survey::Kind> kindAt(int row) const;
 
 private:
-    QVector<survey::Finding> first; ///< one of each kind
-    QVector<int> counts;
+    struct Row {
+        survey::Kind kind;
+        survey::Level level;
+        int count;
+    };
+
+    QVector<Row> kinds;
     int count = 0;
 };
 

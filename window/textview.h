@@ -6,15 +6,17 @@
 namespace window
 {
 
-/// Shows a text of a source, be it plain or HTML. It fetches nothing and leads nowhere.
+/// Shows a text of a source, be it plain or HTML. It fetches nothing, opens no file and leads
+/// nowhere.
 class TextView : public QTextBrowser
 {
 public:
     explicit TextView(QWidget *parent = nullptr);
 
+    /// What would take long to lay out comes as it is written.
     void showText(const QString &text);
 
-    QVariant loadResource(int /*type*/, const QUrl & /*name*/) override { return {}; }
+    QVariant loadResource(int type, const QUrl &name) override;
 };
 
 } // namespace window

@@ -16,6 +16,11 @@ QTableView *tableView(TableModel &model, const QString &accessibleName)
     view->setAlternatingRowColors(true);
     view->setWordWrap(false);
     view->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    // Windows shows it hardly at all where the keyboard is elsewhere.
+    QPalette palette = view->palette();
+    for (const QPalette::ColorRole role : {QPalette::Highlight, QPalette::HighlightedText})
+        palette.setColor(QPalette::Inactive, role, palette.color(QPalette::Active, role));
+    view->setPalette(palette);
     view->verticalHeader()->hide();
     view->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     view->verticalHeader()->setDefaultSectionSize(view->fontMetrics().height() * 3 / 2);

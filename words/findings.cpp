@@ -169,48 +169,67 @@ QString brokenCharacters(const QStringList &details)
 
 struct Sentence {
     Kind kind;
+    const char *name;
     const char *text;                                // with its first detail for %1
     QString (*write)(const QStringList &) = nullptr; // where the details ask for more
 };
 
 const Sentence sentences[] = {
-    {Kind::NotReadable, nullptr, notReadable},
-    {Kind::NotWellFormed, nullptr, notWellFormed},
-    {Kind::WrongEncoding, nullptr, wrongEncoding},
-    {Kind::Limit, nullptr, limit},
-    {Kind::NothingToExport, nullptr, nothingToExport},
-    {Kind::Empty, QT_TRANSLATE_NOOP("Words", "there is nothing in the source to export")},
-    {Kind::Changed, QT_TRANSLATE_NOOP("Words", "the source changed while it was read")},
-    {Kind::NoCode, nullptr, noCode},
-    {Kind::NoPartner,
+    {Kind::NotReadable, QT_TRANSLATE_NOOP("Words", "not readable"), nullptr, notReadable},
+    {Kind::NotWellFormed, QT_TRANSLATE_NOOP("Words", "no well-formed XML"), nullptr, notWellFormed},
+    {Kind::WrongEncoding, QT_TRANSLATE_NOOP("Words", "wrong encoding"), nullptr, wrongEncoding},
+    {Kind::Limit, QT_TRANSLATE_NOOP("Words", "beyond a limit"), nullptr, limit},
+    {Kind::NothingToExport, QT_TRANSLATE_NOOP("Words", "no trade data"), nullptr, nothingToExport},
+    {Kind::Empty, QT_TRANSLATE_NOOP("Words", "nothing to export"),
+     QT_TRANSLATE_NOOP("Words", "there is nothing in the source to export")},
+    {Kind::Changed, QT_TRANSLATE_NOOP("Words", "changed while it was read"),
+     QT_TRANSLATE_NOOP("Words", "the source changed while it was read")},
+    {Kind::NoCode, QT_TRANSLATE_NOOP("Words", "no identifier"), nullptr, noCode},
+    {Kind::NoPartner, QT_TRANSLATE_NOOP("Words", "document without a partner"),
      QT_TRANSLATE_NOOP("Words", "the document has no partner with a code, and is left out")},
-    {Kind::NoNumber,
+    {Kind::NoNumber, QT_TRANSLATE_NOOP("Words", "document without a number"),
      QT_TRANSLATE_NOOP("Words", "the document has no number, and only its partner is exported")},
-    {Kind::NoLines, nullptr, noLines},
-    {Kind::PrefixedName,
+    {Kind::NoLines, QT_TRANSLATE_NOOP("Words", "document without lines"), nullptr, noLines},
+    {Kind::PrefixedName, QT_TRANSLATE_NOOP("Words", "name with a prefix"),
      QT_TRANSLATE_NOOP("Words", "\"%1\" has a prefix, and is not known by this name")},
-    {Kind::NotReached,
+    {Kind::NotReached, QT_TRANSLATE_NOOP("Words", "where no export looks for it"),
      QT_TRANSLATE_NOOP("Words", "\"%1\" stands where no export looks for it, and is left out")},
-    {Kind::OtherRole,
+    {Kind::OtherRole, QT_TRANSLATE_NOOP("Words", "partner of another role"),
      QT_TRANSLATE_NOOP("Words", "the partner \"%1\" has another role than the wanted one")},
-    {Kind::UnknownGroup, nullptr, unknownGroup},
-    {Kind::GroupLoop,
+    {Kind::UnknownGroup, QT_TRANSLATE_NOOP("Words", "unknown group"), nullptr, unknownGroup},
+    {Kind::GroupLoop, QT_TRANSLATE_NOOP("Words", "groups that lead back to themselves"),
      QT_TRANSLATE_NOOP("Words", "the groups above the group \"%1\" lead back to one of them")},
-    {Kind::NoGroup, QT_TRANSLATE_NOOP("Words", "it is in no group")},
-    {Kind::NoName, QT_TRANSLATE_NOOP("Words", "it has no name")},
-    {Kind::NoPrice, QT_TRANSLATE_NOOP("Words", "it has no price")},
-    {Kind::PriceNotANumber, QT_TRANSLATE_NOOP("Words", "the price \"%1\" is no number")},
-    {Kind::PricesDropped,
+    {Kind::NoGroup, QT_TRANSLATE_NOOP("Words", "no group"),
+     QT_TRANSLATE_NOOP("Words", "it is in no group")},
+    {Kind::NoName, QT_TRANSLATE_NOOP("Words", "no name"),
+     QT_TRANSLATE_NOOP("Words", "it has no name")},
+    {Kind::NoPrice, QT_TRANSLATE_NOOP("Words", "no price"),
+     QT_TRANSLATE_NOOP("Words", "it has no price")},
+    {Kind::PriceNotANumber, QT_TRANSLATE_NOOP("Words", "price that is no number"),
+     QT_TRANSLATE_NOOP("Words", "the price \"%1\" is no number")},
+    {Kind::PricesDropped, QT_TRANSLATE_NOOP("Words", "too many prices"),
      QT_TRANSLATE_NOOP("Words", "it has more prices than the exchange file holds")},
-    {Kind::DuplicateCode,
+    {Kind::DuplicateCode, QT_TRANSLATE_NOOP("Words", "repeated code"),
      QT_TRANSLATE_NOOP("Words", "another one in the same section has this code")},
-    {Kind::EmptyCode, QT_TRANSLATE_NOOP("Words", "its code is empty")},
-    {Kind::LineBreak, nullptr, lineBreak},
-    {Kind::MarkerInText, nullptr, markerInText},
-    {Kind::BrokenCharacters, nullptr, brokenCharacters},
-    {Kind::SoldOut,
+    {Kind::EmptyCode, QT_TRANSLATE_NOOP("Words", "empty code"),
+     QT_TRANSLATE_NOOP("Words", "its code is empty")},
+    {Kind::LineBreak, QT_TRANSLATE_NOOP("Words", "line break"), nullptr, lineBreak},
+    {Kind::MarkerInText, QT_TRANSLATE_NOOP("Words", "line like one of the exchange file"), nullptr,
+     markerInText},
+    {Kind::BrokenCharacters, QT_TRANSLATE_NOOP("Words", "broken or control characters"), nullptr,
+     brokenCharacters},
+    {Kind::SoldOut, QT_TRANSLATE_NOOP("Words", "sold out"),
      QT_TRANSLATE_NOOP("Words", "it is sold out, and exported without unit and description")},
 };
+
+/// Null if the kind has none.
+const Sentence *sentenceOf(Kind kind)
+{
+    const auto *const found =
+        std::find_if(std::begin(sentences), std::end(sentences),
+                     [kind](const Sentence &one) { return one.kind == kind; });
+    return found != std::end(sentences) ? found : nullptr;
+}
 
 } // namespace
 
@@ -244,15 +263,19 @@ QString levelWord(Level level)
     return {};
 }
 
+QString kindName(Kind kind)
+{
+    const Sentence *const found = sentenceOf(kind);
+    return found != nullptr ? Words::tr(found->name) : QString();
+}
+
 QString sentence(const Finding &finding)
 {
     QStringList details;
     for (const QString &detail : finding.details)
         details.append(printable(detail));
-    const auto *const found =
-        std::find_if(std::begin(sentences), std::end(sentences),
-                     [&](const Sentence &one) { return one.kind == finding.kind; });
-    if (found == std::end(sentences))
+    const Sentence *const found = sentenceOf(finding.kind);
+    if (found == nullptr)
         return {};
     if (found->write != nullptr)
         return found->write(details);

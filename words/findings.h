@@ -16,6 +16,9 @@ QString printable(const QString &text);
 
 QString levelWord(survey::Level level);
 
+/// What findings of this kind have in common, in a few words.
+QString kindName(survey::Kind kind);
+
 QString sentence(const survey::Finding &finding);
 
 /// "5000 goods, 20 offers", or "nothing".

@@ -901,7 +901,7 @@
     </message>
     <message>
         <source>Documents are &amp;purchases</source>
-        <translation>Документы — &amp;покупки</translation>
+        <translation>Документы — &amp;закупки</translation>
     </message>
     <message>
         <source>&amp;Convert...</source>
@@ -956,10 +956,6 @@
         <translation>&amp;Столбцы товаров</translation>
     </message>
     <message>
-        <source>Nothing yet</source>
-        <translation>Пока ничего</translation>
-    </message>
-    <message>
         <source>Open a source</source>
         <translation>Открыть источник</translation>
     </message>
@@ -978,10 +974,6 @@
     <message>
         <source>The conversion was stopped; the destination is as it was.</source>
         <translation>Преобразование остановлено; файл назначения остался прежним.</translation>
-    </message>
-    <message>
-        <source>The source has changed on the disk.</source>
-        <translation>Источник на диске изменился.</translation>
     </message>
     <message>
         <source>&amp;Read again</source>
@@ -1286,6 +1278,242 @@
     <message>
         <source>Good or order</source>
         <translation>Товар или заказ</translation>
+    </message>
+    <message>
+        <source>No table shows what this is about.</source>
+        <translation>Того, о чём это замечание, нет ни в одной таблице.</translation>
+    </message>
+    <message>
+        <source>&amp;Hide the current column</source>
+        <translation>&amp;Скрыть текущий столбец</translation>
+    </message>
+    <message>
+        <source>Show &amp;all columns</source>
+        <translation>Показать &amp;все столбцы</translation>
+    </message>
+    <message>
+        <source>Move the current column to the &amp;left</source>
+        <translation>Сдвинуть текущий столбец в&amp;лево</translation>
+    </message>
+    <message>
+        <source>Move the current column to the &amp;right</source>
+        <translation>Сдвинуть текущий столбец в&amp;право</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Отменить</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Повторить</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;Вырезать</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>Копировать &amp;адрес ссылки</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>Вст&amp;авить</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Удалить</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Выделить всё</translation>
+    </message>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>&amp;Выделить всё</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>Шаг в&amp;верх</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>Шаг в&amp;низ</translation>
+    </message>
+    <message>
+        <source>Scroll here</source>
+        <translation>Прокрутить сюда</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>В начало</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>В конец</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>К левому краю</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>К правому краю</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>На страницу вверх</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>На страницу вниз</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>На страницу влево</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>На страницу вправо</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Прокрутить вверх</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Прокрутить вниз</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>Прокрутить влево</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>Прокрутить вправо</translation>
+    </message>
+    <message>
+        <source>Another program has the clipboard open.</source>
+        <translation>Буфер обмена открыт другой программой.</translation>
+    </message>
+    <message>
+        <source>Memory ran out. Nothing more can be copied of the source until it is read again.</source>
+        <translation>Память кончилась. Скопировать из источника больше ничего нельзя, пока он не прочитан снова.</translation>
+    </message>
+    <message>
+        <source>In the &amp;order of the source</source>
+        <translation>В порядке &amp;источника</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Вид</translation>
+    </message>
+    <message>
+        <source>not readable</source>
+        <translation>не читается</translation>
+    </message>
+    <message>
+        <source>no well-formed XML</source>
+        <translation>не является правильным XML</translation>
+    </message>
+    <message>
+        <source>wrong encoding</source>
+        <translation>не та кодировка</translation>
+    </message>
+    <message>
+        <source>beyond a limit</source>
+        <translation>сверх ограничения</translation>
+    </message>
+    <message>
+        <source>no trade data</source>
+        <translation>не торговые данные</translation>
+    </message>
+    <message>
+        <source>nothing to export</source>
+        <translation>нечего выгружать</translation>
+    </message>
+    <message>
+        <source>changed while it was read</source>
+        <translation>изменился, пока его читали</translation>
+    </message>
+    <message>
+        <source>no identifier</source>
+        <translation>нет идентификатора</translation>
+    </message>
+    <message>
+        <source>document without a partner</source>
+        <translation>документ без контрагента</translation>
+    </message>
+    <message>
+        <source>document without a number</source>
+        <translation>документ без номера</translation>
+    </message>
+    <message>
+        <source>document without lines</source>
+        <translation>документ без строк</translation>
+    </message>
+    <message>
+        <source>name with a prefix</source>
+        <translation>имя с префиксом</translation>
+    </message>
+    <message>
+        <source>where no export looks for it</source>
+        <translation>стоит там, где выгрузка его не ищет</translation>
+    </message>
+    <message>
+        <source>partner of another role</source>
+        <translation>контрагент с другой ролью</translation>
+    </message>
+    <message>
+        <source>unknown group</source>
+        <translation>неизвестная группа</translation>
+    </message>
+    <message>
+        <source>groups that lead back to themselves</source>
+        <translation>группы, замкнутые в кольцо</translation>
+    </message>
+    <message>
+        <source>no group</source>
+        <translation>нет группы</translation>
+    </message>
+    <message>
+        <source>no name</source>
+        <translation>нет наименования</translation>
+    </message>
+    <message>
+        <source>no price</source>
+        <translation>нет цены</translation>
+    </message>
+    <message>
+        <source>price that is no number</source>
+        <translation>цена — не число</translation>
+    </message>
+    <message>
+        <source>too many prices</source>
+        <translation>слишком много цен</translation>
+    </message>
+    <message>
+        <source>repeated code</source>
+        <translation>повторный код</translation>
+    </message>
+    <message>
+        <source>empty code</source>
+        <translation>пустой код</translation>
+    </message>
+    <message>
+        <source>line break</source>
+        <translation>перевод строки</translation>
+    </message>
+    <message>
+        <source>line like one of the exchange file</source>
+        <translation>строка, похожая на строку файла обмена</translation>
+    </message>
+    <message>
+        <source>broken or control characters</source>
+        <translation>испорченные или управляющие знаки</translation>
+    </message>
+    <message>
+        <source>%1 has changed on the disk.</source>
+        <translation>%1: файл на диске изменился.</translation>
     </message>
 </context>
 </TS>

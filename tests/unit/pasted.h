@@ -6,17 +6,17 @@
 #include <QProcess>
 #include <QtTest>
 
-/// What is on the clipboard; on an X server another program is asked.
+/// What is on the clipboard; where other programs get at it, one of them is asked.
 inline QString pasted()
 {
-    if (QGuiApplication::platformName() != "xcb")
+    if (QGuiApplication::platformName() == "offscreen")
         return QGuiApplication::clipboard()->text();
     QProcess other;
     bool isOver = false;
     QObject::connect(&other, qOverload<int, QProcess::ExitStatus>(&QProcess::finished),
                      [&] { isOver = true; });
-    other.start("xclip", {"-out", "-selection", "clipboard"});
-    return QTest::qWaitFor([&] { return isOver; })
-               ? QString::fromUtf8(other.readAllStandardOutput())
-               : "no answer";
+    other.start(PASTE, {"-out", "-selection", "clipboard"});
+    if (!QTest::qWaitFor([&] { return isOver; }))
+        return "no answer";
+    return QString::fromUtf8(other.readAllStandardOutput()).remove('\r');
 }

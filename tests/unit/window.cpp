@@ -6,9 +6,12 @@
 #include "reader/tree.h"
 #include "window/infobar.h"
 #include "window/mainwindow.h"
+#include "window/textview.h"
 
 #include <QAction>
 #include <QApplication>
+#include <QFileDialog>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
@@ -20,6 +23,11 @@
 #include <QtTest>
 
 #include <atomic>
+#include <new>
+
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#endif
 
 using namespace window;
 
@@ -33,10 +41,23 @@ constexpr int patience = 60'000;
 static std::atomic<Qt::HANDLE> windowThread;
 static std::atomic_int walksInWindow;
 static std::atomic_int walksElsewhere;
+static std::atomic_bool memoryRunsOut;
+static std::atomic_bool walksWait; ///< so nothing gets read
+static QString toChange;           ///< a file, at the next walk
 
 QString wrappedTextOf(const QDomNode &element)
 {
     ++(QThread::currentThreadId() == windowThread ? walksInWindow : walksElsewhere);
+    while (walksWait)
+        QThread::msleep(1);
+    if (memoryRunsOut)
+        throw std::bad_alloc();
+    if (!toChange.isEmpty()) {
+        QFile file(toChange);
+        if (!file.open(QIODevice::Append) || file.write(" ") != 1)
+            qFatal("no source can be changed");
+        toChange.clear();
+    }
     return realTextOf(element);
 }
 
@@ -56,6 +77,13 @@ public:
     }
 
     void trigger(const char *name) const { action(name)->trigger(); }
+
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) const
+    {
+        window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(window.get()));
+        QTest::keyClick(window.get(), key, modifiers);
+    }
 
     QAction *action(const char *name) const { return window->findChild<QAction *>(name); }
 
@@ -107,6 +135,12 @@ public:
 static QString example(const char *name)
 {
     return QStringLiteral(EXAMPLES "/") + name;
+}
+
+static QByteArray bytesOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("none");
 }
 
 /// A catalogue that takes a while to load.
@@ -168,7 +202,8 @@ private slots:
             const QString name = QString("%1-%2.png").arg(QTest::currentDataTag()).arg(page + 1);
             QVERIFY(picture.save(QDir(PICTURES).filePath(name)));
         }
-        QCOMPARE(fixture.settings->value("recent").toStringList(), QStringList(source));
+        QCOMPARE(fixture.settings->value("recent").toStringList(),
+                 QStringList(QFileInfo(source).absoluteFilePath()));
     }
 
     void filterAndCopy()
@@ -191,6 +226,40 @@ private slots:
         QVERIFY(pasted().endsWith("\n2999\tDP8\tтовар 999\n"));
     }
 
+    /// What is chosen stays so, as long as it is shown.
+    void chosen()
+    {
+        const Fixture fixture;
+        QVERIFY(fixture.opens(fixture.write("s.xml", largeSource(3000))));
+        QTRY_COMPARE_WITH_TIMEOUT(fixture.rowCount("Goods"), 3000, patience);
+        QTableView *const table = fixture.table("Goods");
+        table->setSelectionMode(QAbstractItemView::MultiSelection);
+        for (const int row : {1, 2, 777, 2999})
+            table->selectRow(row);
+        const auto chosenCodes = [&] {
+            QStringList codes;
+            for (const QModelIndex &index : table->selectionModel()->selectedRows())
+                codes << index.data().toString();
+            codes.sort();
+            return codes.join(" ");
+        };
+        QCOMPARE(chosenCodes(), QString("1 2 2999 777"));
+        table->horizontalHeader()->setSortIndicator(2, Qt::DescendingOrder);
+        QTRY_VERIFY_WITH_TIMEOUT(table->model()->index(0, 0).data().toString() != "0", patience);
+        QCOMPARE(chosenCodes(), QString("1 2 2999 777"));
+        QCOMPARE(table->currentIndex().data().toString(), QString("2999"));
+        fixture.trigger("unsort");
+        QTRY_COMPARE_WITH_TIMEOUT(table->model()->index(2, 0).data().toString(), QString("2"),
+                                  patience);
+        QCOMPARE(chosenCodes(), QString("1 2 2999 777"));
+        fixture.named<QLineEdit>("Filter")->setText("товар 77");
+        QTRY_COMPARE_WITH_TIMEOUT(fixture.rowCount("Goods"), 3 * 19, patience);
+        QCOMPARE(chosenCodes(), QString("777"));
+        fixture.trigger("copyChosen");
+        QTRY_VERIFY_WITH_TIMEOUT(fixture.message().startsWith("1 line"), patience);
+        QVERIFY(pasted().startsWith("777\t"));
+    }
+
     void orders()
     {
         const Fixture fixture;
@@ -204,34 +273,107 @@ private slots:
         fixture.trigger("copyOrder");
         QTRY_VERIFY_WITH_TIMEOUT(pasted() != withGoods, patience);
         const QString code =
-            fixture.table("Lines of the document")->model()->index(0, 0).data().toString();
+            fixture.table("Lines of the document")->model()->index(0, 1).data().toString();
         QVERIFY(withGoods.startsWith("##\t" + code + "\t"));
         QCOMPARE(pasted().count('\n'), fixture.rowCount("Lines of the document"));
     }
 
-    void findings()
+    void outOfMemory()
     {
         const Fixture fixture;
-        const QString source = fixture.write(
-            "s.xml", "<r><Каталог><Товары><Товар><Ид>1</Ид><Наименование>a</Наименование></Товар>"
-                     "<Товар><Ид>2</Ид></Товар></Товары></Каталог></r>");
-        QVERIFY(fixture.opens(source));
-        fixture.trigger("page3");
+        QVERIFY(fixture.opens(example("orders-windows-1251.xml")));
+        memoryRunsOut = true;
+        fixture.trigger("copyOrder");
+        QTRY_VERIFY_WITH_TIMEOUT(fixture.message().startsWith("Memory ran out"), patience);
+        memoryRunsOut = false;
+        QVERIFY(!fixture.action("copyOrder")->isEnabled());
+        fixture.trigger("readAgain");
+        QTRY_VERIFY_WITH_TIMEOUT(fixture.action("copyOrder")->isEnabled(), patience);
+    }
+
+    void findings_data()
+    {
+        QTest::addColumn<QString>("finding");
+        QTest::addColumn<QString>("table");
+        QTest::addColumn<int>("row");
+        QTest::newRow("one of three with a code") << "another one in the same section has this code"
+                                                  << "Goods" << 1;
+        QTest::newRow("hidden by a group") << "it is in no group"
+                                           << "Goods" << 2;
+        QTest::newRow("line") << "the order line \"Товар\" has no identifier, and is left out"
+                              << "Lines of the document" << 1;
+        QTest::newRow("document") << "the document has no partner with a code, and is left out"
+                                  << "Documents" << 1;
+        QTest::newRow("left out") << "\"Товар\" has no identifier, and is left out"
+                                  << "" << 0;
+    }
+
+    /// A finding leads to the very element, whatever hides that.
+    void findings()
+    {
+        QFETCH(QString, finding);
+        QFETCH(QString, table);
+        QFETCH(int, row);
+        const Fixture fixture;
+        QVERIFY(fixture.opens(fixture.write(
+            "s.xml",
+            "<r><Классификатор><Группы><Группа><Ид>g</Ид><Наименование>G</Наименование></Группа>"
+            "</Группы></Классификатор><Каталог><Товары>"
+            "<Товар><Ид>1</Ид><Наименование>a</Наименование><Группы><Ид>g</Ид></Группы></Товар>"
+            "<Товар><Ид>1</Ид><Наименование>b</Наименование><Группы><Ид>g</Ид></Группы></Товар>"
+            "<Товар><Ид>2</Ид><Наименование>b</Наименование></Товар>"
+            "<Товар><Наименование>c</Наименование></Товар></Товары></Каталог>"
+            "<Документ><Номер>1</Номер><Контрагенты><Контрагент><Ид>к</Ид></Контрагент>"
+            "</Контрагенты><Товары><Товар><Ид>1</Ид></Товар>"
+            "<Товар><Наименование>e</Наименование></Товар></Товары></Документ>"
+            "<Документ><Номер>1</Номер></Документ></r>")));
+        auto *const groups = fixture.named<QTreeView>("Groups");
+        groups->setCurrentIndex(groups->model()->index(1, 0));
+        QTRY_COMPARE_WITH_TIMEOUT(fixture.rowCount("Goods"), 2, patience);
         QTest::keyClicks(fixture.named<QLineEdit>("Filter"), "a");
         QTRY_COMPARE_WITH_TIMEOUT(fixture.rowCount("Goods"), 1, patience);
-        QTableView *const kinds = fixture.table("Kinds of findings");
+
+        fixture.trigger("page3");
         QTableView *const findings = fixture.table("Findings");
-        QVERIFY(kinds->model()->rowCount() > 2);
-        for (int row = 0; row < kinds->model()->rowCount(); ++row) {
-            if (kinds->model()->index(row, 2).data() == "it has no name")
-                kinds->selectRow(row);
+        for (int i = 0; i < findings->model()->rowCount(); ++i) {
+            if (findings->model()->index(i, 3).data() == finding)
+                findings->selectRow(i);
         }
-        QCOMPARE(findings->model()->rowCount(), 1);
-        findings->setFocus();
-        findings->selectRow(0);
         QTest::keyClick(findings, Qt::Key_Return);
-        QTRY_COMPARE_WITH_TIMEOUT(fixture.rowCount("Goods"), 2, patience);
-        QCOMPARE(fixture.table("Goods")->currentIndex().row(), 1);
+        if (table.isEmpty()) {
+            QVERIFY(fixture.message().startsWith("No table shows"));
+            QVERIFY(fixture.message().endsWith(finding));
+            return;
+        }
+        if (table == "Goods") {
+            QTRY_COMPARE_WITH_TIMEOUT(fixture.rowCount(table), 3, patience);
+            QCOMPARE(fixture.table(table)->selectionModel()->selectedRows().size(), 1);
+        }
+        QCOMPARE(fixture.table(table)->currentIndex().row(), row);
+        QVERIFY(fixture.table(table)->isVisible());
+        QCOMPARE(fixture.message(), QString());
+    }
+
+    /// The table holds all findings, whichever kind is shown.
+    void savedFindings()
+    {
+        const Fixture fixture;
+        QVERIFY(fixture.opens(fixture.write(
+            "s.xml",
+            "<r><Каталог><Товары><Товар/><Товар><Ид>1</Ид></Товар></Товары></Каталог></r>")));
+        const int count = fixture.rowCount("Findings");
+        fixture.table("Kinds of findings")->selectRow(1);
+        QCOMPARE(fixture.rowCount("Findings"), 1);
+        QVERIFY(count > 1);
+        const QString path = fixture.folder.filePath("findings.csv");
+        fixture.window->saveFindings(path);
+        QVERIFY(fixture.message().contains(QDir::toNativeSeparators(path)));
+        QCOMPARE(bytesOf(path).count("\r\n"), 1 + count);
+        fixture.window->saveFindings(fixture.folder.filePath("no/findings.csv"));
+        QVERIFY(fixture.message().contains("could not be saved: "));
+        fixture.window->saveFindings(fixture.folder.filePath("./s.xml"));
+        QVERIFY(fixture.message().contains("the destination is the source itself"));
+        QVERIFY(bytesOf(fixture.folder.filePath("s.xml")).startsWith("<r>"));
     }
 
     void unreadable_data()
@@ -290,11 +432,68 @@ private slots:
         QVERIFY(QFile::remove(source)); // as programs do that replace a file
         QTest::qWait(700);
         fixture.write("s.xml", largeSource(2));
-        QTRY_COMPARE_WITH_TIMEOUT(fixture.message(), QString("The source has changed on the disk."),
-                                  patience);
+        const QString change = QDir::toNativeSeparators(source) + " has changed on the disk.";
+        QTRY_COMPARE_WITH_TIMEOUT(fixture.message(), change, patience);
         fixture.trigger("readAgain");
         QTRY_COMPARE_WITH_TIMEOUT(fixture.rowCount("Goods"), 2, patience);
         QCOMPARE(fixture.message(), QString());
+
+        // As another program is at work in the folder.
+        QTimer noise;
+        connect(&noise, &QTimer::timeout, this, [&] {
+            fixture.write("noise", "");
+            QFile::remove(fixture.folder.filePath("noise"));
+        });
+        noise.start(100);
+        fixture.write("s.xml", largeSource(3));
+        QTRY_COMPARE_WITH_TIMEOUT(fixture.message(), change, patience);
+        noise.stop();
+
+        // As another source is read.
+        walksWait = true;
+        fixture.window->open(fixture.write("other.xml", largeSource(1)));
+        fixture.write("s.xml", largeSource(4));
+        QTest::qWait(700);
+        QCOMPARE(fixture.message(), QString());
+        fixture.trigger("stop");
+        walksWait = false;
+        QTRY_COMPARE_WITH_TIMEOUT(fixture.message(), "The reading was stopped.\n" + change,
+                                  patience);
+
+        // As it is read itself.
+        toChange = source;
+        fixture.trigger("readAgain");
+        QTRY_VERIFY_WITH_TIMEOUT(fixture.message().endsWith("while it was read\n" + change),
+                                 patience);
+        QCOMPARE(fixture.rowCount("Goods"), 4);
+    }
+
+    /// Where file dialogs begin.
+    void folders()
+    {
+        const Fixture first;
+        const auto dialogFolder = [](const Fixture &fixture, const char *action) {
+            QString folder;
+            QTimer whenOpen;
+            whenOpen.setSingleShot(true);
+            connect(&whenOpen, &QTimer::timeout, fixture.window.get(), [&] {
+                auto *const dialog = fixture.window->findChild<QFileDialog *>();
+                folder = dialog->directory().canonicalPath();
+                dialog->reject();
+            });
+            whenOpen.start(0);
+            fixture.trigger(action);
+            return folder;
+        };
+        QVERIFY(first.opens(example("catalogue.xml")));
+        const QString examples = QFileInfo(example("catalogue.xml")).canonicalPath();
+        QCOMPARE(dialogFolder(first, "convert"), examples);
+        first.window->convert(first.folder.filePath("made.txt"));
+        QTRY_VERIFY_WITH_TIMEOUT(first.action("convert")->isEnabled(), patience);
+        QCOMPARE(dialogFolder(first, "convert"), QDir(first.folder.path()).canonicalPath());
+        first.settings->sync();
+        const Fixture next(bytesOf(first.settings->fileName()));
+        QCOMPARE(dialogFolder(next, "open"), examples);
     }
 
     void settings_data()
@@ -317,19 +516,95 @@ private slots:
         QVERIFY(!fixture.settings->value("geometry").toByteArray().isEmpty());
     }
 
+    void drop_data()
+    {
+        QTest::addColumn<int>("action");
+        QTest::newRow("plain") << int(Qt::CopyAction);
+        QTest::newRow("with Shift") << int(Qt::MoveAction);
+    }
+
     void drop()
     {
+        QFETCH(int, action);
         const Fixture fixture;
         QMimeData data;
         data.setUrls({QUrl::fromLocalFile(example("catalogue.xml"))});
-        QDragEnterEvent enters(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        const Qt::DropActions possible = Qt::CopyAction | Qt::MoveAction;
+        QDragEnterEvent enters(QPoint(5, 5), possible, &data, Qt::LeftButton, Qt::NoModifier);
+        enters.setDropAction(Qt::DropAction(action));
         QCoreApplication::sendEvent(fixture.window.get(), &enters);
         QVERIFY(enters.isAccepted());
-        QDropEvent event(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QDropEvent event(QPoint(5, 5), possible, &data, Qt::LeftButton, Qt::NoModifier);
+        event.setDropAction(Qt::DropAction(action));
         QCoreApplication::sendEvent(fixture.window.get(), &event);
+        // One that was moved would be removed by who dragged it.
+        QCOMPARE(int(event.dropAction()), int(Qt::CopyAction));
         QTRY_VERIFY_WITH_TIMEOUT(fixture.window->windowTitle().startsWith("catalogue.xml"),
                                  patience);
     }
+
+    /// The picture of a description would be as large as it is, if it were opened.
+    void picturesOfDescriptions()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath("large.png");
+        QImage large(10, 500, QImage::Format_RGB32);
+        large.fill(Qt::black);
+        QVERIFY(large.save(path));
+        const QString current = QDir::currentPath();
+        QVERIFY(QDir::setCurrent(folder.path()));
+        TextView view;
+        view.show();
+        for (const QString &name : {QUrl::fromLocalFile(path).toString(), path,
+                                    QStringLiteral("large.png"), QStringLiteral("large")}) {
+            view.showText("<p>text<img src='" + name + "'></p>");
+            QCOMPARE(view.toPlainText().left(4), QString("text"));
+            QVERIFY2(view.document()->size().height() < 200, qPrintable(name));
+        }
+        QVERIFY(QDir::setCurrent(current));
+    }
+
+    void deepDescriptions()
+    {
+        TextView view;
+        for (const char *const element : {"<div>", "<ul><li>", "<b>"}) {
+            const QString text = QString(element).repeated(3000);
+            view.showText(text);
+            QCOMPARE(view.toPlainText(), text);
+        }
+    }
+
+    /// A view of a tree calls itself for each level that is expanded.
+    void deepCategories()
+    {
+        QByteArray xml = "<yml_catalog><shop><categories>";
+        constexpr int depth = 60'000;
+        for (int id = 1; id <= depth; ++id)
+            xml += QString("<category id='%1' parentId='%2'>c</category>")
+                       .arg(id)
+                       .arg(id - 1)
+                       .toUtf8();
+        xml += "</categories><offers><offer id='o'><categoryId>" + QByteArray::number(depth) +
+               "</categoryId><name>n</name></offer></offers></shop></yml_catalog>";
+        const Fixture fixture;
+        QVERIFY(fixture.opens(fixture.write("s.xml", xml)));
+        auto *const groups = fixture.named<QTreeView>("Groups");
+        groups->setCurrentIndex(groups->model()->index(1, 0));
+        QTest::keyClick(groups, Qt::Key_Asterisk);
+        QVERIFY(groups->isExpanded(groups->currentIndex()));
+    }
+
+#ifdef Q_OS_UNIX
+    void pipe()
+    {
+        const Fixture fixture;
+        const QString path = fixture.folder.filePath("pipe");
+        QCOMPARE(mkfifo(qPrintable(path), 0600), 0);
+        fixture.window->open(path);
+        QVERIFY(fixture.message().contains("no ordinary file"));
+        QVERIFY(fixture.opens(example("catalogue.xml")));
+    }
+#endif
 
     void conversions_data()
     {
@@ -348,8 +623,11 @@ private slots:
         if (source.isEmpty())
             source = fixture.write("s.xml", bothRoles);
         QVERIFY(fixture.opens(source));
-        if (purchase)
+        if (purchase) {
             fixture.trigger("purchase");
+            QVERIFY(!fixture.action("convert")->isEnabled());
+            QTRY_VERIFY_WITH_TIMEOUT(fixture.action("convert")->isEnabled(), patience);
+        }
         const QString wanted = fixture.folder.filePath("wanted.txt");
         QProcess program;
         QStringList arguments = {source, wanted};
@@ -358,22 +636,54 @@ private slots:
         program.start(PROGRAM, arguments);
         QVERIFY(program.waitForFinished());
 
-        const auto bytes = [](const QString &path) {
-            QFile file(path);
-            return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("none");
-        };
         const QString made = fixture.folder.filePath("made.txt");
         for (const char *const outcome : {"was created", "has it all already"}) {
             fixture.window->convert(made);
             QTRY_VERIFY2_WITH_TIMEOUT(fixture.message().contains(outcome),
                                       qPrintable(fixture.message()), patience);
             QTRY_VERIFY_WITH_TIMEOUT(fixture.action("convert")->isEnabled(), patience);
-            QCOMPARE(bytes(made), bytes(wanted));
+            QCOMPARE(bytesOf(made), bytesOf(wanted));
         }
-        QCOMPARE(bytes(made).contains("code:b\n"), purchase);
+        QCOMPARE(bytesOf(made).contains("code:b\n"), purchase);
         fixture.window->convert(source);
         QTRY_VERIFY_WITH_TIMEOUT(fixture.message().contains("the destination is the source itself"),
                                  patience);
+    }
+
+    void purchases_data()
+    {
+        QTest::addColumn<QString>("then");
+        QTest::addColumn<bool>("purchase");
+        QTest::newRow("another source is read so") << "" << true;
+        QTest::newRow("stopped") << "stop" << false;
+        QTest::newRow("emptied") << "empty" << false;
+    }
+
+    /// The menu tells how what is shown was read, and that is converted.
+    void purchases()
+    {
+        QFETCH(QString, then);
+        QFETCH(bool, purchase);
+        const Fixture fixture;
+        QVERIFY(fixture.opens(fixture.write("a.xml", bothRoles)));
+        const QString next = fixture.write("b.xml", bothRoles);
+        walksWait = true;
+        fixture.window->open(next);
+        if (then == "empty")
+            fixture.write("b.xml", "");
+        fixture.trigger("purchase");
+        if (then == "stop")
+            fixture.trigger("stop");
+        walksWait = false;
+        QTRY_VERIFY_WITH_TIMEOUT(!fixture.action("stop")->isEnabled(), patience);
+        QCOMPARE(fixture.window->windowTitle().startsWith("b.xml "), purchase);
+        QCOMPARE(fixture.action("purchase")->isChecked(), purchase);
+        QCOMPARE(fixture.table("Partner")->model()->index(0, 1).data().toString(),
+                 QString(purchase ? "b" : "a"));
+        const QString made = fixture.folder.filePath("made.txt");
+        fixture.window->convert(made);
+        QTRY_VERIFY_WITH_TIMEOUT(fixture.message().contains("was created"), patience);
+        QCOMPARE(bytesOf(made).contains("code:b\n"), purchase);
     }
 
     void stoppedConversion()
@@ -382,9 +692,13 @@ private slots:
         QVERIFY(fixture.opens(fixture.write("s.xml", largeSource(20'000))));
         const QString destination = fixture.write("made.txt", "old");
         fixture.window->convert(destination);
+        walksWait = true;
+        fixture.trigger("readAgain");
         QTest::qWait(20);
         fixture.trigger("stop");
+        walksWait = false;
         QVERIFY(fixture.message().contains("as it was"));
+        QVERIFY(fixture.message().contains("The reading was stopped."));
         QVERIFY(fixture.action("convert")->isEnabled());
         QCOMPARE(QFileInfo(destination).size(), qint64(3));
         const QDir folder(fixture.folder.path());
@@ -392,21 +706,90 @@ private slots:
         QCOMPARE(files, QStringList({"made.txt", "s.xml", "settings.ini"}));
     }
 
+    void recent()
+    {
+        const Fixture fixture;
+        QVERIFY(!fixture.action("recent1")->isVisible());
+        const QString odd = fixture.write("a & %1 b.xml", largeSource(1));
+        QVERIFY(fixture.opens(odd));
+        QVERIFY(fixture.opens(example("catalogue.xml")));
+        QVERIFY(!fixture.action("recent3")->isVisible());
+        fixture.press(Qt::Key_2, Qt::AltModifier); // though its menu was never open
+        QTRY_VERIFY_WITH_TIMEOUT(fixture.window->windowTitle().startsWith("a & %1 b.xml "),
+                                 patience);
+        QVERIFY(fixture.action("recent1")->text().endsWith("a && %1 b.xml"));
+        const Fixture later("[General]\nrecent=" + QByteArray(20, ',') + "\n");
+        QVERIFY(later.action("recent9")->isVisible());
+    }
+
+    void columns()
+    {
+        const Fixture fixture;
+        QVERIFY(fixture.opens(fixture.write("s.xml", largeSource(2))));
+        QTRY_COMPARE_WITH_TIMEOUT(fixture.rowCount("Goods"), 2, patience);
+        QTableView *const table = fixture.table("Goods");
+        const auto shown = [&] {
+            QStringList headings;
+            for (int i = 0; i < table->model()->columnCount(); ++i) {
+                const int column = table->horizontalHeader()->logicalIndex(i);
+                const bool isShown = !table->isColumnHidden(column);
+                if (isShown)
+                    headings << table->model()->headerData(column, Qt::Horizontal).toString();
+                if (fixture.action(qPrintable(QString("column%1").arg(column + 1)))->isChecked() !=
+                    isShown)
+                    headings << "wrong in the menu";
+            }
+            return headings.mid(0, 3).join(" ");
+        };
+        fixture.press(Qt::Key_F7); // no column is current yet
+        QCOMPARE(shown(), QString("Code Article Name"));
+        table->setCurrentIndex(table->model()->index(1, 1));
+        fixture.press(Qt::Key_F7);
+        QCOMPARE(shown(), QString("Code Name Group"));
+        QCOMPARE(table->currentIndex(), table->model()->index(1, 2));
+        fixture.press(Qt::Key_Left, Qt::AltModifier);
+        QCOMPARE(shown(), QString("Name Code Group"));
+        fixture.press(Qt::Key_Left, Qt::AltModifier);
+        QCOMPARE(shown(), QString("Name Code Group"));
+        fixture.press(Qt::Key_F1, Qt::ControlModifier);
+        QCOMPARE(shown(), QString("Name Group Unit"));
+        fixture.window->close();
+        const MainWindow next(*fixture.settings);
+        QVERIFY(!next.findChild<QAction *>("column1")->isChecked());
+
+        fixture.window->QWidget::show();
+        for (int i = 0; i < 20; ++i)
+            fixture.trigger("hideColumn");
+        QCOMPARE(shown(), QString("Note")); // the last one stays
+        fixture.trigger("column12");
+        QCOMPARE(shown(), QString("Note"));
+        fixture.press(Qt::Key_F7, Qt::ShiftModifier);
+        QCOMPARE(shown(), QString("Name Code Article"));
+    }
+
+    static QVector<const QAction *> actionsOf(const QList<QAction *> &entries)
+    {
+        QVector<const QAction *> actions;
+        for (const QAction *const entry : entries) {
+            if (entry->menu() != nullptr)
+                actions << actionsOf(entry->menu()->actions());
+            else if (!entry->isSeparator())
+                actions << entry;
+        }
+        return actions;
+    }
+
     /// The keyboard alone is enough.
     void keys()
     {
         const Fixture fixture;
         QVector<QKeySequence> taken;
-        for (const QAction *const menu : fixture.window->menuBar()->actions()) {
-            for (const QAction *const action : menu->menu()->actions()) {
-                if (action->isSeparator() || action->menu() != nullptr)
-                    continue;
-                QVERIFY2(!action->shortcut().isEmpty(), qPrintable(action->text()));
-                QVERIFY2(!taken.contains(action->shortcut()), qPrintable(action->text()));
-                taken << action->shortcut();
-            }
+        for (const QAction *const action : actionsOf(fixture.window->menuBar()->actions())) {
+            QVERIFY2(!action->shortcut().isEmpty(), qPrintable(action->text()));
+            QVERIFY2(!taken.contains(action->shortcut()), qPrintable(action->text()));
+            taken << action->shortcut();
         }
-        QVERIFY(taken.size() > 10);
+        QVERIFY(taken.size() > 40);
     }
 };
 
@@ -415,6 +798,9 @@ int main(int argc, char *argv[])
     delivery::prepareProgram();
     if (delivery::isWorker(argc, argv))
         return delivery::beWorker(argc, argv);
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); // a test closes them
+    // Those of the system can't be found by their class.
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     const QApplication application(argc, argv);
     delivery::prepareApplication();
     WindowTest test;

@@ -6,7 +6,26 @@
 
 #include <QtTest>
 
+#include <atomic>
+#include <limits>
+#include <new>
+
 using namespace window;
+
+// Where goods are sorted by numbers, the linker puts this in between: memory runs out there.
+std::optional<double>
+realNumberIn(const QString &field) asm("__real__ZN6window8numberInERK7QString");
+std::optional<double>
+wrappedNumberIn(const QString &field) asm("__wrap__ZN6window8numberInERK7QString");
+
+static std::atomic_bool memoryRunsOut;
+
+std::optional<double> wrappedNumberIn(const QString &field)
+{
+    if (memoryRunsOut)
+        throw std::bad_alloc();
+    return realNumberIn(field);
+}
 
 /// The cells of a table that hold something.
 static QStringList cells(const TableModel &model)
@@ -115,13 +134,40 @@ private slots:
             << QStringList{"Code=т1|Name=дрель 10|Group=Инструмент \\ Дрели",
                            "Code=т2|Article=A-7|Name=Дрель 9|Group=Инструмент \\ Дрели|Unit=шт",
                            "Code=т3|Name=Ключ|Group=Инструмент", "Code=т4", "Code=п|Prices=20; 3"}
-            << QStringList{"All goods 5", "Инструмент 3", "-Дрели 2"};
+            << QStringList{"All goods 5", "Инструмент 3", "-Дрели 2", "Книги 0"};
         QTest::newRow("YML") << feed
                              << QStringList{"Code=a|Name=Чашка|Group=Посуда|Unit=шт|Prices=9.50|"
                                             "Maker=V|Country=RU|Weight=0.3|Picture=p/1.jpg",
                                             "Code=a|Name=Блюдце|Note=sold out",
                                             "Code=b|Name=Нож|Unit=шт|Prices=7|Picture=p/2.jpg"}
                              << QStringList{"All goods 3", "Посуда 1"};
+        const auto offers = [](const QStringList &categories) {
+            QString xml;
+            for (const QString &category : categories)
+                xml += "<offer id='o'><categoryId>" + category + "</categoryId></offer>";
+            return "</categories><offers>" + xml + "</offers></yml_catalog>";
+        };
+        QTest::newRow("odd groups")
+            << "<yml_catalog><categories><category id='1'>A \\ B</category>"
+               "<category id='2' parentId='1'>C</category><category id='3'>A</category>"
+               "<category id='4' parentId='3'>B</category><category id='4'>again</category>"
+               "<category id='5'>A</category><category id='6' parentId='5'>D</category>"
+               "<category id='7'/><category id='8' parentId='7'>E</category>"
+               "<category>no id</category><category id='9' parentId='no'>F</category>" +
+                   offers({"2", "6", "8"})
+            << QStringList{"Code=o|Group=A \\ B \\ C|Unit=шт", "Code=o|Group=A \\ D|Unit=шт",
+                           "Code=o|Group= \\ E|Unit=шт"}
+            << QStringList{"All goods 3", "A \\ B 1", "-C 1", "A 1", "-B 0",
+                           "-D 1",        " 1",       "-E 1", "F 0"};
+        QTest::newRow("loops")
+            << "<yml_catalog><categories><category id='1' parentId='2'>A</category>"
+               "<category id='2' parentId='1'>B</category><category id='3' "
+               "parentId='1'>C</category>"
+               "<category id='4' parentId='4'>D</category>" +
+                   offers({"1", "3", "3"})
+            << QStringList{"Code=o|Group=B \\ A|Unit=шт", "Code=o|Group=B \\ A \\ C|Unit=шт",
+                           "Code=o|Group=B \\ A \\ C|Unit=шт"}
+            << QStringList{"All goods 3", "B 3", "-A 3", "--C 2"};
         QTest::newRow("nothing") << "<r/>" << QStringList() << QStringList{"All goods 0"};
     }
 
@@ -140,29 +186,43 @@ private slots:
 
     void arrangements_data()
     {
+        QTest::addColumn<QString>("xml");
         QTest::addColumn<QString>("text");
         QTest::addColumn<int>("group");
         QTest::addColumn<int>("field");
         QTest::addColumn<int>("order");
         QTest::addColumn<QString>("codes");
-        QTest::newRow("all") << "" << -1 << -1 << 0 << "т1 т2 т3 т4 п";
-        QTest::newRow("any case") << "ДРЕЛЬ" << -1 << -1 << 0 << "т1 т2";
-        QTest::newRow("words in different fields") << " a-7  дрел " << -1 << -1 << 0 << "т2";
-        QTest::newRow("nothing has it") << "дрель ключ" << -1 << -1 << 0 << "";
-        QTest::newRow("a group and those below") << "" << 0 << -1 << 0 << "т1 т2 т3";
-        QTest::newRow("a group in a group") << "9" << 1 << -1 << 0 << "т2";
-        QTest::newRow("as people sort") << "дрель" << -1 << int(GoodField::Name) << 0 << "т2 т1";
-        QTest::newRow("falling") << "" << -1 << int(GoodField::Prices) << 1 << "т1 т2 т3 т4 п";
-        QTest::newRow("by number") << "" << -1 << int(GoodField::Prices) << 0 << "п т1 т2 т3 т4";
+        const QString priced = QString(catalogue).replace(
+            "</Предложения>", "<Предложение><Ид>п2</Ид><Цены><Цена><ЦенаЗаЕдиницу>100"
+                              "</ЦенаЗаЕдиницу></Цена></Цены></Предложение></Предложения>");
+        QTest::newRow("all") << priced << "" << -1 << -1 << 0 << "т1 т2 т3 т4 п п2";
+        QTest::newRow("any case") << priced << "ДРЕЛЬ" << -1 << -1 << 0 << "т1 т2";
+        QTest::newRow("words in different fields")
+            << priced << " a-7  дрел " << -1 << -1 << 0 << "т2";
+        QTest::newRow("nothing has it") << priced << "дрель ключ" << -1 << -1 << 0 << "";
+        QTest::newRow("a group and those below") << priced << "" << 0 << -1 << 0 << "т1 т2 т3";
+        QTest::newRow("a group in a group") << priced << "9" << 1 << -1 << 0 << "т2";
+        QTest::newRow("as people sort")
+            << priced << "дрель" << -1 << int(GoodField::Name) << 0 << "т2 т1";
+        QTest::newRow("falling") << priced << "" << -1 << int(GoodField::Article) << 1
+                                 << "т2 т1 т3 т4 п п2";
+        QTest::newRow("those without a number come last")
+            << priced << "" << -1 << int(GoodField::Prices) << 1 << "п2 п т1 т2 т3 т4";
+        QTest::newRow("by number")
+            << priced << "" << -1 << int(GoodField::Prices) << 0 << "п п2 т1 т2 т3 т4";
+        const QString names = QString(feed).replace("'a'><name>Блюдце", "'c'><name>Блюдце");
+        QTest::newRow("words of a note") << names << "SOLD" << -1 << -1 << 0 << "c";
+        QTest::newRow("by note") << names << "" << -1 << int(GoodField::Note) << 1 << "c a b";
     }
 
     void arrangements()
     {
+        QFETCH(QString, xml);
         QFETCH(QString, text);
         QFETCH(int, group);
         QFETCH(int, field);
         QFETCH(int, order);
-        const Opened opened = openText(catalogue);
+        const Opened opened = openText(xml);
         Arrangement arrangement = {text, group, {}, Qt::SortOrder(order)};
         if (field >= 0)
             arrangement.sortedBy = GoodField(field);
@@ -180,16 +240,16 @@ private slots:
         const QStringList expected = {
             QString("Number=1|Date=2024-05-06|Partner=Ромашка|Role=Продавец|") +
                 "Comment=скоро|Status=Новый|Sum=30",
-            "Number=2|Not exported=" + sentence(exporter::Loss::NoPartner),
-            "Partner=к|Not exported=" + sentence(exporter::Loss::NoNumber),
-            "Number=4|Partner=к|Not exported=" + sentence(exporter::Loss::NoLines),
-            "Number=5|Not exported=" + sentence(exporter::Loss::BehindTheEnd),
+            "Not exported=" + sentence(exporter::Loss::NoPartner) + "|Number=2",
+            "Not exported=" + sentence(exporter::Loss::NoNumber) + "|Partner=к",
+            "Not exported=" + sentence(exporter::Loss::NoLines) + "|Number=4|Partner=к",
+            "Not exported=" + sentence(exporter::Loss::BehindTheEnd) + "|Number=5",
         };
         QCOMPARE(cells(orders), expected);
         LinesModel lines;
         lines.show(opened.source->orders.first().lines);
         QCOMPARE(cells(lines), QStringList({"Code=т|Name=Гвоздь|Quantity=3|Price=10|Sum=30",
-                                            "Name=Доставка|Sum=5|Not exported=it has no code"}));
+                                            "Not exported=it has no code|Name=Доставка|Sum=5"}));
         DetailsModel details;
         details.show(opened.source->orders.first().partnerDetails);
         QCOMPARE(cells(details), QStringList({"Detail=Code|Value=к", "Detail=Name|Value=Ромашка",
@@ -202,6 +262,7 @@ private slots:
         KindsModel kinds;
         kinds.show(opened.source);
         QCOMPARE(kinds.kindAt(0), std::nullopt);
+        QVERIFY(cells(kinds).contains("Level=loss|Count=2|Kind=document without a partner"));
         FindingsModel findings;
         findings.show(opened.source, std::nullopt);
         QCOMPARE(kinds.text(0, 1), QString::number(findings.rowCount()));
@@ -219,6 +280,45 @@ private slots:
             QByteArray("\xEF\xBB\xBF\"Level\";\"Place\";\"Good or order\";\"Finding\"\r\n"
                        "\"loss\";\"line 1, column 734\";\"'=\"\"4\";\"the document has no "
                        "lines, and the export ends at it: 1 document behind it is lost\"\r\n"));
+    }
+
+    void elements_data()
+    {
+        QTest::addColumn<QString>("head");
+        QTest::newRow("positions of elements") << "";
+        QTest::newRow("positions of ends") << "<!DOCTYPE r [<!ENTITY e 'x'>]>";
+    }
+
+    /// Where the elements are shown that findings are about.
+    void elements()
+    {
+        QFETCH(QString, head);
+        const Opened opened = openText(
+            head +
+            "<r><Каталог><Товары>"
+            "<Товар><Ид>1</Ид><Наименование>a</Наименование><Группы><Ид>2</Ид></Группы></Товар>"
+            "<Товар><Наименование>b</Наименование><Группы><Ид>2</Ид></Группы></Товар>"
+            "<Товар><Ид>1</Ид><Наименование>c</Наименование><Группы><Ид>2</Ид></Группы></Товар>"
+            "</Товары><Товары><Товар><Ид>1</Ид></Товар></Товары></Каталог>"
+            "<Документ><Номер>1</Номер><Контрагенты><Контрагент><Ид></Ид></Контрагент>"
+            "</Контрагенты><Товары>"
+            "<Товар><Ид>1</Ид><Наименование>d</Наименование><Группы><Ид>3</Ид></Группы></Товар>"
+            "<Товар><Наименование>e</Наименование></Товар></Товары></Документ>"
+            "<Документ><Номер>1</Номер></Документ></r>");
+        QStringList lines;
+        for (const survey::Finding &finding : opened.source->survey.findings) {
+            const Shown shown = shownAt(*opened.source, finding.position);
+            lines << QString("%1 %2 %3 %4")
+                         .arg(survey::infoOf(finding.kind).name)
+                         .arg(shown.good)
+                         .arg(shown.order)
+                         .arg(shown.line);
+        }
+        QCOMPARE(lines.join(", "),
+                 QString("unknown-group 0 -1 -1, no-code -1 -1 -1, duplicate-code 1 -1 -1, "
+                         "unknown-group 1 -1 -1, not-reached -1 -1 -1, empty-code -1 0 -1, "
+                         "unknown-group -1 0 0, no-code -1 0 1, no-partner -1 1 -1"));
+        QCOMPARE(shownAt(*opened.source, {}).good, -1);
     }
 
     void chosenRows_data()
@@ -250,6 +350,60 @@ private slots:
         const Opened opened = openText(xml);
         opened.reader->collectRows({}, &chosen);
         QTEST(Rows::codesOf(*opened.reader), "codes");
+    }
+
+    void stopped_data()
+    {
+        QTest::addColumn<QString>("xml");
+        QTest::newRow("catalogue") << catalogue;
+        QTest::newRow("documents") << documents;
+    }
+
+    /// Whoever opens a source is asked at each of its items, and can stop it at any time.
+    void stopped()
+    {
+        QFETCH(QString, xml);
+        const QString path = fileWith(xml.toUtf8());
+        int asked = 0;
+        int most = std::numeric_limits<int>::max();
+        const auto goesOn = [&](qint64, qint64) { return ++asked < most; };
+        const Opened whole = openSource(path, false, goesOn);
+        QVERIFY(whole.reader);
+        const int all = asked;
+        QVERIFY(all > whole.source->goods.size() + whole.source->orders.size());
+        for (most = 1; most <= all; ++most) {
+            asked = 0;
+            const Opened opened = openSource(path, false, goesOn);
+            QVERIFY(!opened.reader);
+            QVERIFY(opened.source->survey.stopped);
+            QVERIFY(opened.source->goods.isEmpty() && opened.source->orders.isEmpty());
+            QCOMPARE(asked, most);
+        }
+    }
+
+    /// It is told, and what is shown can be arranged anew, but nothing be read with what is left.
+    void outOfMemory()
+    {
+        Desk desk;
+        int timesOut = 0;
+        desk.ranOut = [&] { ++timesOut; };
+        desk.replace(openText(catalogue));
+        Arrangement byPrice;
+        byPrice.sortedBy = GoodField::Prices;
+        QVector<int> places;
+        const auto tell = [&](const QVector<int> &arranged) { places = arranged; };
+        memoryRunsOut = true;
+        desk.arrange(byPrice, tell);
+        QTRY_COMPARE(timesOut, 1);
+        memoryRunsOut = false;
+        QVERIFY(places.isEmpty());
+        desk.arrange(byPrice, tell);
+        QTRY_COMPARE(places.size(), 5);
+        QVERIFY(desk.hasReader());
+        desk.collect([](SourceReader &) { throw std::bad_alloc(); },
+                     [](SourceReader &) { QFAIL("there is nothing to tell"); });
+        QTRY_COMPARE(timesOut, 2);
+        QVERIFY(!desk.hasReader());
     }
 };
 

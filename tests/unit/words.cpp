@@ -3,6 +3,7 @@
 #include "words/findings.h"
 #include "words/language.h"
 #include "words/outcomes.h"
+#include "words/toolkit.h"
 
 #include <QRegularExpression>
 #include <QSet>
@@ -83,7 +84,12 @@ private slots:
             {Kind::BrokenCharacters, {"name:"}},
         };
         QSet<QString> all;
+        QSet<QString> names;
         for (const survey::KindInfo &info : survey::kinds()) {
+            const Said name = inBoth([&] { return kindName(info.kind); });
+            QVERIFY2(isWhole(name), info.name);
+            QVERIFY2(!names.contains(name.russian), info.name);
+            names.insert(name.russian);
             const auto forms = details.contains(info.kind) ? details.values(info.kind)
                                                            : QList<QStringList>{QStringList()};
             for (const QStringList &form : forms) {
@@ -214,6 +220,16 @@ private slots:
             qputenv("LANG", locale.lang);
             QCOMPARE(languageOfUser(), locale.language);
         }
+    }
+
+    static void menusOfTheToolkit()
+    {
+        const ToolkitTexts texts;
+        for (const char *const text : {"&Undo", "Select All", "Scroll here"}) {
+            const Said said = inBoth([&] { return texts.translate("QLineEdit", text, "", -1); });
+            QVERIFY2(isWhole(said), text);
+        }
+        QVERIFY(texts.translate("QLineEdit", "Loading", "", -1).isNull());
     }
 };
 
