@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 #
 # checks/hardened.sh FILE...: whether each program, or each of the programs in a package, is hardened.
+# The installer is not for it: what runs there is Debian's, and what it installs is that of the zip.
 set -euo pipefail
 # shellcheck source-path=SCRIPTDIR source=../scripts/setup.sh
 . "$(dirname "$(readlink -f "$0")")/../scripts/setup.sh"

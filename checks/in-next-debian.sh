@@ -2,8 +2,8 @@
 #
 # checks/in-next-debian.sh [RELEASE [HIDDEN]]: as root, follows the README on a minimal Debian of the
 # next release, trixie if none is given: with the last commit and nothing else it converts an example,
-# which must give what build/xml2ryk gives, and runs every test. It is a Debian that no longer has the
-# package HIDDEN.
+# which must give what build/xml2ryk gives, runs every test, and builds the program of docs/host.md with
+# what is installed then. It is a Debian that no longer has the package HIDDEN.
 set -euo pipefail
 # shellcheck source-path=SCRIPTDIR source=new-debian.sh
 . "$(dirname "$(readlink -f "$0")")/new-debian.sh"
@@ -23,3 +23,4 @@ within xml2ryk/scripts/convert "xml2ryk/$example" out.txt </dev/null >/dev/null
 "$root/build/xml2ryk" "$root/$example" "$fresh/expected.txt" </dev/null >/dev/null 2>&1
 cmp "$fresh/out.txt" "$fresh/expected.txt"
 within xml2ryk/scripts/test </dev/null
+within xml2ryk/checks/host.sh xml2ryk/build </dev/null

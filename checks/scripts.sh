@@ -8,7 +8,7 @@ cd "$(dirname "$(readlink -f "$0")")/.."
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 mkdir "$work/tree" "$work/bin"
-cp -R --parents .ci scripts checks tests/*.sh "$work/tree"
+cp -R --parents .ci scripts checks tests/*.sh windows/own.sh "$work/tree"
 cd "$work/tree"
 export XML2RYK_CACHE=$work/tree/cache CALLS=$work/calls PATH=$work/bin:$PATH
 : >"$CALLS"
@@ -45,8 +45,8 @@ ends_with() {
 
 find . >"$work/before"
 touch occupied
-for script in .ci/run scripts/{catalogues,fuzz,package,test,window,windows} tests/{key-on-windows,run-conversion}.sh \
-    checks/{catalogues,from-zip,hardened,in-fresh-root,in-next-debian,many-files,options,repeatable-packages}.sh \
+for script in .ci/run scripts/{catalogues,fuzz,icons,package,release,test,window,windows} tests/{key-on-windows,run-conversion}.sh \
+    checks/{catalogues,components,desktop,from-zip,hardened,host,in-fresh-root,in-next-debian,installer,links,many-files,options,repeatable-packages}.sh \
     checks/units.sh; do
     ends_with 0 "$script" --help
     grep -q "^$script" "$work/output" || fail "$script --help does not tell how it is called"
@@ -64,6 +64,39 @@ ends_with 69 scripts/convert a b
 [ ! -s "$CALLS" ] || fail "packages were installed for nothing"
 
 rm build
+# A release is what its tag has.
+mkdir -p "$work/release/scripts"
+cp scripts/{release,setup.sh} "$work/release/scripts"
+(
+    cd "$work/release"
+    export GIT_CONFIG_GLOBAL=/dev/null GIT_{AUTHOR,COMMITTER}_{NAME,EMAIL}=nobody
+    git init --quiet
+    # keep HEAD MADE TAG: a commit of version 1.2 with that head of the changes, whose package is MADE.
+    keep() {
+        echo "    VERSION 1.2" >CMakeLists.txt
+        tee CHANGELOG.md CHANGELOG.ru.md <<<"## $1" >/dev/null
+        # shellcheck disable=SC2016
+        printf '#!/bin/sh\ncd "${0%%%%/scripts*}" && mkdir build-packages && echo "%s" >build-packages/made\n' "$2" >scripts/package
+        chmod +x scripts/package
+        git add . && git commit --quiet --message "$1" && git tag --force "$3" >/dev/null
+    }
+    keep 1.2 "of another tag" v1.3
+    ends_with 64 scripts/release v1.3
+    keep "1.2 (not released)" "not headed" v1.2
+    ends_with 64 scripts/release v1.2
+    ends_with 64 scripts/release v1.1
+    [ ! -e build-packages ] || fail "a release was made of the wrong tag"
+    keep 1.2 "of the tag" v1.2
+    keep 1.3 "of what came later" later
+    git branch v1.2
+    # Root may make one in a clone of somebody else.
+    [ "$(id -u)" -ne 0 ] || chown -R nobody .
+    ends_with 0 scripts/release v1.2
+    grep -qx "of the tag" build-packages/made || fail "scripts/release makes something else than the tag"
+    [ "$(git -c safe.directory="$PWD" status --porcelain)" = "?? build-packages/" ] ||
+        fail "scripts/release leaves something behind"
+)
+
 ends_with 69 scripts/convert a b
 [ "$(cut -d ' ' -f 2 "$CALLS" | xargs)" = "update install install" ] || fail "not installed"
 for said in "a broken source" waiting "can't configure"; do

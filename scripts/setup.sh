@@ -57,6 +57,9 @@ keep() {
     done
 }
 
+# version_in: what the CMakeLists.txt that it reads gives as the version of the project.
+version_in() { sed -n 's/^ *VERSION \([0-9.]*\)$/\1/p'; }
+
 # writable DIRECTORY: whether it is, or can be made so.
 writable() { mkdir -p "$1" 2>/dev/null && [ -w "$1" ]; }
 
@@ -155,6 +158,16 @@ build() {
             -e 's/^\[1\/.*/xml2ryk: building/' -e '/^\[[0-9]*\//d' >&2 || give_up "the build failed"
     exec 9>&-
 }
+
+# start_screen, end_screen: an X server for what this script starts, if it has one that starts.
+start_screen() {
+    local display
+    exec 3< <(exec Xvfb -displayfd 1 -screen 0 1280x800x24 -nolisten tcp 2>/dev/null)
+    screen=$!
+    read -r -t 20 display <&3 || return
+    export DISPLAY=:$display
+}
+end_screen() { [ -z "${screen:-}" ] || kill "$screen" 2>/dev/null || true; }
 
 # run_tests PRESET DIRECTORY: of a skipped test, CTest itself tells only that it was.
 run_tests() {
