@@ -124,7 +124,7 @@ registry() {
 set_path() { in_windows 0 reg add 'HKCU\Environment' /v Path /t REG_EXPAND_SZ /d "$1" /f; }
 path_is() {
     in_windows 0 reg query 'HKCU\Environment' /v Path
-    iconv -f CP866 "$work/said" | tr -d '\r' | grep -qFx "    Path    REG_EXPAND_SZ    $1" ||
+    grep -qFx "    Path    REG_EXPAND_SZ    $1" <<<"$(iconv -f CP866 "$work/said" | tr -d '\r')" ||
         fail "PATH is not $1, but $(iconv -f CP866 "$work/said")"
 }
 
@@ -201,7 +201,7 @@ sed 's/dword:'"$size"'$/dword:SIZE/' "$work/new" | diff "$work/entries" - ||
     fail "the entries are not those that were expected"
 menu=$(echo users/*/AppData/Roaming/Microsoft/Windows/Start\ Menu/Programs)/xml2ryk
 for link in "xml2ryk:xml2ryk-window.exe" "Документы xml2ryk:README.ru.html"; do
-    tr -d '\0' <"$menu/${link%:*}.lnk" | grep -qaF "$installed_at\\${link#*:}" ||
+    grep -qaF "$installed_at\\${link#*:}" <<<"$(tr -d '\0' <"$menu/${link%:*}.lnk")" ||
         fail "the start menu has no link $link"
 done
 

@@ -106,7 +106,8 @@ install_packages() {
 
 # candidate PACKAGE, or FIRST|SECOND: the one to install.
 candidate() {
-    if LC_ALL=C apt-cache policy "${1%|*}" | grep -q 'Candidate: [^(]'; then
+    # Not in a pipe: it takes one that is closed early for a failure.
+    if [[ $(LC_ALL=C apt-cache policy "${1%|*}") == *"Candidate: "[!\(]* ]]; then
         echo "${1%|*}"
     else
         echo "${1#*|}"
@@ -121,7 +122,7 @@ run_apt() {
     # shellcheck disable=SC2016
     until "${as_root[@]}" env LC_ALL=C.UTF-8 DEBIAN_FRONTEND=noninteractive \
         sh -c 'exec apt-get -q "$@" 2>&1' sh "$@" </dev/null | keep "$log"; do
-        tail -n 4 "$log" | grep -q 'Could not get lock' || return
+        grep -q 'Could not get lock' <<<"$(tail -n 4 "$log")" || return
         ((SECONDS < deadline)) || return
         [ -n "$waiting" ] || say "waiting, ten minutes at most, for another program that installs"
         waiting=yes
