@@ -12,7 +12,7 @@ cp -R --parents .ci scripts checks tests/*.sh windows/own.sh "$work/tree"
 cd "$work/tree"
 export XML2RYK_CACHE=$work/tree/cache CALLS=$work/calls PATH=$work/bin:$PATH
 : >"$CALLS"
-for tool in dpkg-query sudo apt-get; do
+for tool in dpkg-query sudo apt-get apt-cache; do
     echo '#!/bin/sh' >"$work/bin/$tool"
 done
 echo 'exit 1' >>"$work/bin/dpkg-query"
@@ -26,6 +26,12 @@ install1) echo 'E: Could not get lock' ;;
 *) exit 0 ;;
 esac
 exit 100
+END
+# It has more to say than anybody waits for.
+cat >>"$work/bin/apt-cache" <<'END'
+echo '  Candidate: 1.0'
+sleep 0.1
+exec echo '  Version table:'
 END
 chmod +x "$work/bin"/*
 
@@ -99,6 +105,7 @@ cp scripts/{release,setup.sh} "$work/release/scripts"
 
 ends_with 69 scripts/convert a b
 [ "$(cut -d ' ' -f 2 "$CALLS" | xargs)" = "update install install" ] || fail "not installed"
+! grep -q qt6 "$CALLS" || fail "Qt 6 is installed where Qt 5 is to be had"
 for said in "a broken source" waiting "can't configure"; do
     grep -q "^xml2ryk: .*$said" "$work/error" || fail "scripts/convert does not tell: $said"
 done
