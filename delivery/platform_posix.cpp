@@ -185,7 +185,7 @@ bool NewFile::keepRights(const QString &old) const
 
 bool NewFile::takeUsualRights() const
 {
-    const mode_t mask = umask(0);
+    const mode_t mask = umask(077); // a file that another thread makes meanwhile is not for all
     umask(mask);
     return fchmod(int(handle), mode_t(0666) & ~mask) == 0;
 }

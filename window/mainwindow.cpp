@@ -122,12 +122,6 @@ MainWindow::MainWindow(QSettings &settings)
     constexpr int pause = 100;
     progressTimer.setInterval(pause);
     connect(&progressTimer, &QTimer::timeout, this, [this] { showProgress(); });
-    endTimer.setSingleShot(true);
-    connect(&endTimer, &QTimer::timeout, this, [this] {
-        conversion.reset();
-        showProgress();
-        showState();
-    });
     restoreSettings();
     showProgress();
     showState();
@@ -345,16 +339,11 @@ void MainWindow::readAgain()
 
 void MainWindow::stop()
 {
-    QStringList lines;
     if (loader.isLoading())
-        lines.append(Words::tr("The reading was stopped."));
+        tell(Words::tr("The reading was stopped."));
     loader.stop();
-    if (conversion && !endTimer.isActive())
-        lines.append(Words::tr("The conversion was stopped; the destination is as it was."));
-    if (!lines.isEmpty())
-        tell(lines.join(u'\n'));
-    endTimer.stop();
-    conversion.reset();
+    if (conversion)
+        conversion->stop();
     showProgress();
     showState();
 }
@@ -362,6 +351,13 @@ void MainWindow::stop()
 void MainWindow::tell(const QString &text)
 {
     infoBar->tell(text);
+}
+
+QString MainWindow::withText(const QString &text) const
+{
+    QStringList lines = infoBar->text().split(u'\n', Qt::SkipEmptyParts);
+    lines.removeAll(text);
+    return (lines << text).join(u'\n');
 }
 
 void MainWindow::offerToRead(const QString &text)
@@ -425,11 +421,8 @@ void MainWindow::lookForChange()
         return;
     shownState = state;
     watch(path);
-    const QString change =
-        Words::tr("%1 has changed on the disk.").arg(QDir::toNativeSeparators(path));
-    QStringList lines = infoBar->text().split(u'\n', Qt::SkipEmptyParts); // which may be an error
-    lines.removeAll(change);
-    offerToRead((lines << change).join(u'\n'));
+    offerToRead(
+        withText(Words::tr("%1 has changed on the disk.").arg(QDir::toNativeSeparators(path))));
 }
 
 void MainWindow::showFinding(const survey::Finding &finding)
@@ -493,15 +486,21 @@ void MainWindow::convert(const QString &destination)
     delivery::RunOptions options;
     options.request.purchase = desk.source()->purchase;
     options.jobs = 1;
-    std::vector<delivery::Job> jobs = {{desk.source()->path, destination, {}}};
-    conversion = std::make_unique<delivery::Run>(options, std::move(jobs));
-    converted = 0;
-    conversion->tell = [this](const delivery::Outcome &outcome) { tellOutcome(outcome); };
-    conversion->progressed = [this](double share, const QString &) { converted = share; };
-    conversion->done = [this] {
-        endTimer.start(0); // it is in the middle of telling so
-    };
-    conversion->begin();
+    conversion =
+        std::make_unique<Conversion>(options, delivery::Job{desk.source()->path, destination, {}});
+    connect(conversion.get(), &QThread::finished, this, [this] { endConversion(); });
+    conversion->start();
+    showProgress();
+    showState();
+}
+
+void MainWindow::endConversion()
+{
+    const std::unique_ptr<Conversion> ended = std::move(conversion);
+    if (ended->outcome())
+        tellOutcome(*ended->outcome());
+    else
+        tell(withText(Words::tr("The conversion was stopped; the destination is as it was.")));
     showProgress();
     showState();
 }
@@ -590,7 +589,7 @@ void MainWindow::showProgress()
     progress->setVisible(isBusy);
     stopButton->setVisible(isBusy);
     stopAction->setEnabled(isBusy);
-    const double share = loader.isLoading() ? loader.share() : converted;
+    const double share = loader.isLoading() ? loader.share() : conversion ? conversion->share() : 0;
     constexpr int whole = 100;
     progress->setRange(0, share < 0 || share >= 1 ? 0 : whole); // without an end, it only moves
     if (progress->maximum() > 0)

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "delivery/run.h"
 #include "survey/filestate.h"
+#include "window/conversion.h"
 #include "window/desk.h"
 #include "window/loader.h"
 
@@ -64,6 +64,7 @@ private:
     void showOpened(Opened opened);
     void tellErrors(const Source &source);
     void tell(const QString &text);
+    QString withText(const QString &text) const; ///< behind what the bar tells already
     void offerToRead(const QString &text);
 
     void addRecent(const QString &path);
@@ -75,6 +76,7 @@ private:
     void showFinding(const survey::Finding &finding);
     void askWhereToSave();
     void askForDestination();
+    void endConversion();
     void tellOutcome(const delivery::Outcome &outcome);
     void askHowToCopy();
     void copyGoods(bool onlyChosen);
@@ -90,12 +92,10 @@ private:
     Loader loader;
     Desk desk;
     CopyOptions copying;
-    std::unique_ptr<delivery::Run> conversion; ///< null where none is going on
-    double converted = 0;                      ///< how much of its source is read
+    std::unique_ptr<Conversion> conversion; ///< null where none is going on
     QFileSystemWatcher watcher;
     QTimer changeTimer;
     QTimer progressTimer;
-    QTimer endTimer;              ///< of a conversion
     survey::FileState shownState; ///< or of the change that was told of since
 
     GoodsPage *goods;

@@ -61,6 +61,24 @@ QString wrappedTextOf(const QDomNode &element)
     return realTextOf(element);
 }
 
+// A disk that takes its time when a new file is in place.
+void realFlushFolder(const QString &folder) asm("__real__ZN8delivery11flushFolderERK7QString");
+void wrappedFlushFolder(const QString &folder) asm("__wrap__ZN8delivery11flushFolderERK7QString");
+
+static std::atomic_bool diskIsSlow;
+static std::atomic_bool isFlushing;
+
+void wrappedFlushFolder(const QString &folder)
+{
+    isFlushing = true;
+    if (QThread::currentThreadId() == windowThread)
+        qFatal("the window waits for the disk");
+    while (diskIsSlow)
+        QThread::msleep(1);
+    isFlushing = false;
+    realFlushFolder(folder);
+}
+
 /// A window with settings of its own.
 class Fixture
 {
@@ -697,13 +715,27 @@ private slots:
         QTest::qWait(20);
         fixture.trigger("stop");
         walksWait = false;
-        QVERIFY(fixture.message().contains("as it was"));
+        QTRY_VERIFY_WITH_TIMEOUT(fixture.message().contains("as it was"), patience);
         QVERIFY(fixture.message().contains("The reading was stopped."));
         QVERIFY(fixture.action("convert")->isEnabled());
         QCOMPARE(QFileInfo(destination).size(), qint64(3));
         const QDir folder(fixture.folder.path());
         const QStringList files = folder.entryList(QDir::Files | QDir::Hidden, QDir::Name);
         QCOMPARE(files, QStringList({"made.txt", "s.xml", "settings.ini"}));
+    }
+
+    void stoppedTooLate()
+    {
+        const Fixture fixture;
+        QVERIFY(fixture.opens(example("catalogue.xml")));
+        diskIsSlow = true;
+        fixture.window->convert(fixture.folder.filePath("made.txt"));
+        QTRY_VERIFY_WITH_TIMEOUT(isFlushing, patience);
+        fixture.trigger("stop");
+        QVERIFY(!fixture.action("convert")->isEnabled());
+        diskIsSlow = false;
+        QTRY_VERIFY_WITH_TIMEOUT(fixture.message().contains("was created"), patience);
+        QVERIFY(fixture.action("convert")->isEnabled());
     }
 
     void recent()
