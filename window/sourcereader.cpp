@@ -167,6 +167,7 @@ struct SourceReader::Description {
     const survey::Loaded &loaded;
     const std::function<bool()> &goesOn;
     GroupTree tree = {};
+    const int documentType = source.purchase ? 0 : 1;
 
     // The next item.
     const PathIndex::Node *group = nullptr;
@@ -219,7 +220,7 @@ try {
                  /*applyFactor=*/false, /*priceFactor=*/1.0);
     Writer nowhere;
     commerceml::exportDocs(docs, exportTo(nowhere, groupIndex), /*withGoods=*/true,
-                           source.purchase ? 0 : 1);
+                           begun.documentType);
     takePicture();
     goodsRows.clear();
     description = nullptr;
@@ -383,12 +384,29 @@ void SourceReader::leftOut(ItemKind kind, const QDomElement &element, Loss loss)
         line.isExported = false;
         orders.last().lines.append(line);
     } else if (kind == ItemKind::Order) {
-        const bool isBegun = loss == Loss::NoNumber || loss == Loss::NoLines;
-        if (!isBegun)
-            orders.append(orderFrom(element));
+        addLost(element, loss);
         orders.last().isLost = true;
         orders.last().loss = loss;
     }
+}
+
+/// Adds what an export has not come to of a document, in its own steps.
+void SourceReader::addLost(const QDomElement &document, Loss loss)
+{
+    if (loss == Loss::NoLines)
+        return; // it was the last step
+    Writer nowhere;
+    const Export to = exportTo(nowhere, groupIndex);
+    if (loss != Loss::NoNumber) {
+        const QDomElement partner = commerceml::partnerOf(document, description->documentType);
+        if (partner.isNull())
+            description->source.orders.append(orderFrom(document));
+        else
+            commerceml::exportPartner(partner, to);
+    }
+    commerceml::exportOrderHead(document, to, description->documentType);
+    commerceml::exportOrderLines(document, to, /*withGoods=*/true,
+                                 commerceml::orderGoodsFields(to));
 }
 
 void SourceReader::doubted(const QDomElement & /*element*/, Doubt doubt)

@@ -57,6 +57,7 @@ private:
     void exported(const exporter::Item &item) override;
     void leftOut(exporter::ItemKind kind, const QDomElement &element, exporter::Loss loss) override;
     void doubted(const QDomElement &element, exporter::Doubt doubt) override;
+    void addLost(const QDomElement &document, exporter::Loss loss);
     Order orderFrom(const QDomElement &document) const;
     OrderLine lineFrom(const QDomElement &element) const;
     survey::Extent extentOf(const QDomElement &element) const;

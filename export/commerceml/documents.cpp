@@ -26,9 +26,9 @@ bool isWanted(const QDomElement &partner, int documentType)
            textOf(role) == partnerRoles.value(documentType);
 }
 
-/// The partner of a document; null if it has none. Only the first two partners are looked at: the
-/// second one is taken, whatever its role, where the first has a role that is not the wanted one.
-QDomElement choosePartner(const QDomNode &doc, int documentType)
+} // namespace
+
+QDomElement commerceml::partnerOf(const QDomElement &doc, int documentType)
 {
     const QString partnerElement = QStringLiteral("Контрагент");
     const QDomElement first =
@@ -36,15 +36,13 @@ QDomElement choosePartner(const QDomNode &doc, int documentType)
     return isWanted(first, documentType) ? first : first.nextSiblingElement(partnerElement);
 }
 
-} // namespace
-
 bool commerceml::exportDocs(const QList<QDomNode> &docs, const Export &to, bool withGoods,
                             int documentType)
 {
     const FieldTable goodsFields = orderGoodsFields(to);
     for (auto doc = docs.cbegin(); doc != docs.cend(); ++doc) {
         const QDomElement element = doc->toElement();
-        const QDomElement partner = choosePartner(element, documentType);
+        const QDomElement partner = partnerOf(element, documentType);
         if (partner.firstChildElement(idElement).isNull()) {
             to.leftOut(ItemKind::Order, element, Loss::NoPartner);
             continue;

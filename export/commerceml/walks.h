@@ -28,6 +28,10 @@ bool exportDocs(const QList<QDomNode> &docs, const exporter::Export &to, bool wi
 
 // The steps of exportDocs().
 
+/// The partner of a document; null if it has none. Only the first two partners are looked at: the
+/// second one is taken, whatever its role, where the first has a role that is not the wanted one.
+QDomElement partnerOf(const QDomElement &doc, int documentType);
+
 /// Exports the partner of a document.
 void exportPartner(const QDomElement &partner, const exporter::Export &to);
 
