@@ -46,7 +46,7 @@ void Desk::arrange(const Arrangement &arrangement,
         if (*isStopped)
             return;
         if (*isOut)
-            ranOut();
+            ranOut(/*isReaderLost=*/false);
         else
             tell(*places);
     });
@@ -74,7 +74,7 @@ void Desk::collect(const std::function<void(SourceReader &reader)> &collect,
         }
         reader = std::move(lent->reader);
         if (*isOut)
-            ranOut();
+            ranOut(/*isReaderLost=*/true);
         else
             tell(*reader);
     });

@@ -26,8 +26,9 @@ public:
     Opened replace(Opened opened);
     void putAway(Opened opened);
 
-    /// Told where memory ran out while goods were arranged or rows collected.
-    std::function<void()> ranOut;
+    /// Told where memory ran out while goods were arranged or rows collected: the reader is gone
+    /// then if `isReaderLost`.
+    std::function<void(bool isReaderLost)> ranOut;
 
     /// The latest one counts: those before it are not told of any more.
     void arrange(const Arrangement &arrangement,

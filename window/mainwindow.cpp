@@ -95,13 +95,13 @@ MainWindow::MainWindow(QSettings &settings)
     setAcceptDrops(true);
     setWindowTitle(QStringLiteral("xml2ryk"));
 
-    desk.ranOut = [this] {
-        if (desk.hasReader())
-            tell(Words::tr("memory ran out"));
-        else
+    desk.ranOut = [this](bool isReaderLost) {
+        if (isReaderLost)
             offerToRead(
                 Words::tr("Memory ran out. Nothing more can be copied of the source until it "
                           "is read again."));
+        else
+            tell(Words::tr("memory ran out"));
         showState();
     };
     loader.opened = [this](Opened opened) { showOpened(std::move(opened)); };
@@ -568,7 +568,7 @@ void MainWindow::putOnClipboard(SourceReader &reader)
             reader.copyRowsToClipboard();
     } catch (const std::bad_alloc &) {
         reader.forgetRows();
-        desk.ranOut();
+        desk.ranOut(/*isReaderLost=*/false);
         return;
     }
     // Elsewhere nobody can keep it open, and not each platform knows whose it is.
