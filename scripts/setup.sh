@@ -63,6 +63,14 @@ version_in() { sed -n 's/^ *VERSION \([0-9.]*\)$/\1/p'; }
 # writable DIRECTORY: whether it is, or can be made so.
 writable() { mkdir -p "$1" 2>/dev/null && [ -w "$1" ]; }
 
+# start_wine COMMAND...: in place of the shell. Where the kernel lays a process out at random, its heap
+# lies now and then, one time in some two thousand, where wine keeps data of its own, and the program
+# ends with 1 before it begins.
+start_wine() {
+    ! setarch -R true 2>/dev/null || exec setarch -R "$@"
+    exec "$@"
+}
+
 # take_turn DESCRIPTOR: waits for the lock on it.
 take_turn() {
     flock --nonblock "$1" && return
