@@ -5,8 +5,10 @@
 #include "window/findingspage.h"
 #include "window/goodspage.h"
 #include "window/infobar.h"
+#include "window/menus.h"
 #include "window/orderspage.h"
 #include "window/overviewpage.h"
+#include "window/texts.h"
 #include "words/findings.h"
 #include "words/language.h"
 #include "words/outcomes.h"
@@ -41,30 +43,7 @@ using words::Words;
 namespace window
 {
 
-static const QString recentKey = QStringLiteral("recent");
 static const QString destinationKey = QStringLiteral("destinationFolder");
-constexpr int mostRecent = 9;
-
-/// A finding with its place.
-static QString inWords(const survey::Finding &finding)
-{
-    const QString place = placeInWords(finding.position);
-    const QString sentence = words::sentence(finding);
-    return place.isEmpty() ? sentence : place + QLatin1String(": ") + sentence;
-}
-
-/// The errors of a source.
-static QStringList errorsOf(const survey::Survey &survey)
-{
-    QStringList lines;
-    for (const survey::Finding &finding : survey.findings) {
-        if (finding.level == survey::Level::Error)
-            lines.append(inWords(finding));
-    }
-    if (lines.isEmpty() && survey.outOfMemory)
-        lines.append(Words::tr("memory ran out"));
-    return lines;
-}
 
 MainWindow::MainWindow(QSettings &settings)
     : settings(settings),
@@ -76,7 +55,9 @@ MainWindow::MainWindow(QSettings &settings)
       infoBar(new InfoBar),
       progress(new QProgressBar),
       stopButton(new QPushButton(Words::tr("Stop"))),
-      state(new QLabel)
+      state(new QLabel),
+      recent(new RecentMenu(settings, this)),
+      columns(new ColumnsMenu(*goods, this))
 {
     pages->addTab(goods, Words::tr("Goods"));
     pages->addTab(orders, Words::tr("Orders"));
@@ -109,16 +90,13 @@ MainWindow::MainWindow(QSettings &settings)
     orders->changed = [this] { showState(); };
     findings->activated = [this](const survey::Finding &finding) { showFinding(finding); };
     connect(stopButton, &QPushButton::clicked, stopAction, &QAction::trigger);
-    const auto soon = [this] {
-        if (!changeTimer.isActive()) // or else it would never end where something writes often
-            changeTimer.start();
+    recent->chosen = [this](const QString &path) { open(path); };
+    columns->changing = [this] { pages->setCurrentWidget(goods); };
+    watch.waits = [this] { return loader.isLoading(); };
+    watch.changed = [this](const QString &path) {
+        offerToRead(
+            withText(Words::tr("%1 has changed on the disk.").arg(QDir::toNativeSeparators(path))));
     };
-    constexpr int settled = 500; // until whoever writes the file is likely to be done
-    changeTimer.setInterval(settled);
-    changeTimer.setSingleShot(true);
-    connect(&watcher, &QFileSystemWatcher::fileChanged, this, soon);
-    connect(&watcher, &QFileSystemWatcher::directoryChanged, this, soon);
-    connect(&changeTimer, &QTimer::timeout, this, [this] { lookForChange(); });
     constexpr int pause = 100;
     progressTimer.setInterval(pause);
     connect(&progressTimer, &QTimer::timeout, this, [this] { showProgress(); });
@@ -135,16 +113,6 @@ MainWindow::~MainWindow()
     delete takeCentralWidget();
 }
 
-QAction *MainWindow::add(QMenu *menu, const QString &name, const QString &text,
-                         const QKeySequence &key, const std::function<void()> &triggered)
-{
-    QAction *const action = menu->addAction(text);
-    action->setObjectName(name);
-    action->setShortcut(key);
-    connect(action, &QAction::triggered, this, [triggered] { triggered(); });
-    return action;
-}
-
 void MainWindow::addMenus()
 {
     addFileMenu();
@@ -155,159 +123,78 @@ void MainWindow::addMenus()
 void MainWindow::addFileMenu()
 {
     QMenu *const menu = menuBar()->addMenu(Words::tr("&File"));
-    add(menu, QStringLiteral("open"), Words::tr("&Open..."), QKeySequence::Open,
-        [this] { askForSource(); });
-    addRecentMenu(menu);
-    readAgainAction = add(menu, QStringLiteral("readAgain"), Words::tr("Read &again"), Qt::Key_F5,
-                          [this] { readAgain(); });
-    stopAction =
-        add(menu, QStringLiteral("stop"), Words::tr("&Stop"), Qt::Key_Escape, [this] { stop(); });
+    addEntry(*menu, QStringLiteral("open"), Words::tr("&Open..."), QKeySequence::Open,
+             [this] { askForSource(); });
+    menu->addMenu(recent);
+    readAgainAction = addEntry(*menu, QStringLiteral("readAgain"), Words::tr("Read &again"),
+                               Qt::Key_F5, [this] { readAgain(); });
+    stopAction = addEntry(*menu, QStringLiteral("stop"), Words::tr("&Stop"), Qt::Key_Escape,
+                          [this] { stop(); });
     menu->addSeparator();
-    purchaseAction = add(menu, QStringLiteral("purchase"), Words::tr("Documents are &purchases"),
-                         QStringLiteral("Ctrl+P"), [this] { readAgain(); });
+    purchaseAction =
+        addEntry(*menu, QStringLiteral("purchase"), Words::tr("Documents are &purchases"),
+                 QStringLiteral("Ctrl+P"), [this] { readAgain(); });
     purchaseAction->setCheckable(true);
-    convertAction = add(menu, QStringLiteral("convert"), Words::tr("&Convert..."),
-                        QStringLiteral("Ctrl+E"), [this] { askForDestination(); });
+    convertAction = addEntry(*menu, QStringLiteral("convert"), Words::tr("&Convert..."),
+                             QStringLiteral("Ctrl+E"), [this] { askForDestination(); });
     saveFindingsAction =
-        add(menu, QStringLiteral("saveFindings"), Words::tr("Save &findings as a table..."),
-            QKeySequence::Save, [this] { askWhereToSave(); });
+        addEntry(*menu, QStringLiteral("saveFindings"), Words::tr("Save &findings as a table..."),
+                 QKeySequence::Save, [this] { askWhereToSave(); });
     menu->addSeparator();
-    add(menu, QStringLiteral("quit"), Words::tr("&Quit"), QStringLiteral("Ctrl+Q"),
-        [this] { close(); });
+    addEntry(*menu, QStringLiteral("quit"), Words::tr("&Quit"), QStringLiteral("Ctrl+Q"),
+             [this] { close(); });
 }
 
 void MainWindow::addCopyMenu()
 {
     QMenu *const menu = menuBar()->addMenu(Words::tr("&Copy"));
     copyChosenAction =
-        add(menu, QStringLiteral("copyChosen"), Words::tr("&Chosen goods"),
-            QStringLiteral("Ctrl+Shift+C"), [this] { copyGoods(/*onlyChosen=*/true); });
+        addEntry(*menu, QStringLiteral("copyChosen"), Words::tr("&Chosen goods"),
+                 QStringLiteral("Ctrl+Shift+C"), [this] { copyGoods(/*onlyChosen=*/true); });
     copyAllAction =
-        add(menu, QStringLiteral("copyAll"), Words::tr("&All goods"),
-            QStringLiteral("Ctrl+Shift+A"), [this] { copyGoods(/*onlyChosen=*/false); });
-    add(menu, QStringLiteral("howToCopy"), Words::tr("&How to copy goods..."),
-        QStringLiteral("Ctrl+Shift+H"), [this] { askHowToCopy(); });
+        addEntry(*menu, QStringLiteral("copyAll"), Words::tr("&All goods"),
+                 QStringLiteral("Ctrl+Shift+A"), [this] { copyGoods(/*onlyChosen=*/false); });
+    addEntry(*menu, QStringLiteral("howToCopy"), Words::tr("&How to copy goods..."),
+             QStringLiteral("Ctrl+Shift+H"), [this] { askHowToCopy(); });
     menu->addSeparator();
-    copyOrderAction = add(menu, QStringLiteral("copyOrder"), Words::tr("&Lines of the document"),
-                          QStringLiteral("Ctrl+Shift+L"), [this] { copyOrder(); });
-    withGoodsAction = add(menu, QStringLiteral("withGoods"), Words::tr("Lines with &goods"),
-                          QStringLiteral("Ctrl+Shift+G"), [] {});
+    copyOrderAction =
+        addEntry(*menu, QStringLiteral("copyOrder"), Words::tr("&Lines of the document"),
+                 QStringLiteral("Ctrl+Shift+L"), [this] { copyOrder(); });
+    withGoodsAction = addEntry(*menu, QStringLiteral("withGoods"), Words::tr("Lines with &goods"),
+                               QStringLiteral("Ctrl+Shift+G"), [] {});
     withGoodsAction->setCheckable(true);
     withGoodsAction->setChecked(true);
-}
-
-void MainWindow::addRecentMenu(QMenu *menu)
-{
-    recentMenu = menu->addMenu(Words::tr("Open &recent"));
-    for (int number = 1; number <= mostRecent; ++number) {
-        const int place = number - 1;
-        recentActions.append(add(recentMenu, QStringLiteral("recent%1").arg(number), QString(),
-                                 QStringLiteral("Alt+%1").arg(number), [this, place] {
-                                     open(recentActions.at(place)->data().toString());
-                                 }));
-    }
-    showRecent();
 }
 
 void MainWindow::addViewMenu()
 {
     QMenu *const menu = menuBar()->addMenu(Words::tr("&View"));
     for (int page = 0; page < pages->count(); ++page)
-        add(menu, QStringLiteral("page%1").arg(page + 1), pages->tabText(page),
-            QStringLiteral("Ctrl+%1").arg(page + 1),
-            [this, page] { pages->setCurrentIndex(page); });
+        addEntry(*menu, QStringLiteral("page%1").arg(page + 1), pages->tabText(page),
+                 QStringLiteral("Ctrl+%1").arg(page + 1),
+                 [this, page] { pages->setCurrentIndex(page); });
     menu->addSeparator();
-    add(menu, QStringLiteral("filter"), Words::tr("&Filter"), QKeySequence::Find, [this] {
+    addEntry(*menu, QStringLiteral("filter"), Words::tr("&Filter"), QKeySequence::Find, [this] {
         pages->setCurrentWidget(goods);
         goods->filter();
     });
-    add(menu, QStringLiteral("sort"), Words::tr("&Sort by the current column"), Qt::Key_F6, [this] {
-        pages->setCurrentWidget(goods);
-        goods->sortByCurrentColumn();
-    });
-    add(menu, QStringLiteral("unsort"), Words::tr("In the &order of the source"),
-        QStringLiteral("Shift+F6"), [this] {
-            pages->setCurrentWidget(goods);
-            goods->sortAsInSource();
-        });
-    addColumnsMenu(menu);
-}
-
-void MainWindow::addColumnsMenu(QMenu *menu)
-{
-    QMenu *const columns = menu->addMenu(Words::tr("&Columns of goods"));
-    const auto addForColumns = [this, columns](const QString &name, const QString &text,
-                                               const QKeySequence &key,
-                                               const std::function<void()> &change) {
-        return add(columns, name, text, key, [this, change] {
-            pages->setCurrentWidget(goods);
-            change();
-            showColumns();
-        });
-    };
-    addForColumns(QStringLiteral("hideColumn"), Words::tr("&Hide the current column"), Qt::Key_F7,
-                  [this] { goods->hideCurrentColumn(); });
-    addForColumns(QStringLiteral("showColumns"), Words::tr("Show &all columns"),
-                  QStringLiteral("Shift+F7"), [this] { goods->showAllColumns(); });
-    addForColumns(QStringLiteral("columnLeft"), Words::tr("Move the current column to the &left"),
-                  QStringLiteral("Alt+Left"), [this] { goods->moveCurrentColumn(-1); });
-    addForColumns(QStringLiteral("columnRight"), Words::tr("Move the current column to the &right"),
-                  QStringLiteral("Alt+Right"), [this] { goods->moveCurrentColumn(1); });
-    columns->addSeparator();
-    const QAbstractItemModel *const model = goods->table().model();
-    for (int column = 0; column < model->columnCount(); ++column) {
-        QAction *const action =
-            addForColumns(QStringLiteral("column%1").arg(column + 1),
-                          model->headerData(column, Qt::Horizontal).toString(),
-                          QStringLiteral("Ctrl+F%1").arg(column + 1), [this, column] {
-                              goods->isColumnShown(column) ? goods->hideColumn(column)
-                                                           : goods->showColumn(column);
-                          });
-        action->setCheckable(true);
-        columnActions.append(action);
-    }
-    QHeaderView *const header = goods->table().horizontalHeader();
-    header->setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(header, &QWidget::customContextMenuRequested, this,
-            [columns, header](const QPoint &at) { columns->popup(header->mapToGlobal(at)); });
-}
-
-/// Brings the actions of columns up to date.
-void MainWindow::showColumns()
-{
-    for (int column = 0; column < columnActions.size(); ++column)
-        columnActions.at(column)->setChecked(goods->isColumnShown(column));
-}
-
-/// Brings the actions of recent files up to date.
-void MainWindow::showRecent()
-{
-    const QStringList paths = settings.value(recentKey).toStringList().mid(0, mostRecent);
-    recentMenu->setEnabled(!paths.isEmpty());
-    for (int place = 0; place < recentActions.size(); ++place) {
-        QAction *const action = recentActions.at(place);
-        QString text = QDir::toNativeSeparators(paths.value(place));
-        text.replace(u'&', QLatin1String("&&"));
-        action->setText(QStringLiteral("&%1 ").arg(place + 1) + text);
-        action->setData(paths.value(place));
-        action->setVisible(place < paths.size());
-    }
-}
-
-void MainWindow::addRecent(const QString &path)
-{
-    QStringList paths = settings.value(recentKey).toStringList();
-    paths.removeAll(path);
-    paths.prepend(path);
-    settings.setValue(recentKey, QStringList(paths.mid(0, mostRecent)));
-    showRecent();
+    addEntry(*menu, QStringLiteral("sort"), Words::tr("&Sort by the current column"), Qt::Key_F6,
+             [this] {
+                 pages->setCurrentWidget(goods);
+                 goods->sortByCurrentColumn();
+             });
+    addEntry(*menu, QStringLiteral("unsort"), Words::tr("In the &order of the source"),
+             QStringLiteral("Shift+F6"), [this] {
+                 pages->setCurrentWidget(goods);
+                 goods->sortAsInSource();
+             });
+    menu->addMenu(columns);
 }
 
 void MainWindow::askForSource()
 {
     const QString shown = desk.source()->path;
-    const QString last =
-        shown.isEmpty() ? settings.value(recentKey).toStringList().value(0) : shown;
+    const QString last = shown.isEmpty() ? recent->latest() : shown;
     const QString path = QFileDialog::getOpenFileName(
         this, Words::tr("Open a source"), QFileInfo(last).path(),
         Words::tr("Sources (*.xml *.yml)") + QLatin1String(";;") + Words::tr("All files (*)"));
@@ -385,44 +272,17 @@ void MainWindow::showOpened(Opened opened)
     else if (!desk.source()->goods.isEmpty() && desk.source()->orders.isEmpty())
         pages->setCurrentWidget(goods);
     setWindowTitle(QFileInfo(path).fileName() + QLatin1String(" - xml2ryk"));
-    addRecent(path);
-    watch(path);
-    shownState = desk.source()->state;
-    changeTimer.start(); // it may have changed while it was read
+    recent->add(path);
+    watch.watch(path, desk.source()->state);
     showState();
 }
 
 /// Why a source could not be opened, or gives nothing.
 void MainWindow::tellErrors(const Source &source)
 {
-    const QStringList lines = errorsOf(source.survey);
+    const QStringList lines = errorsInWords(source.survey);
     if (!lines.isEmpty())
         tell(QDir::toNativeSeparators(source.path) + u'\n' + lines.join(u'\n'));
-}
-
-void MainWindow::watch(const QString &path)
-{
-    const QStringList watched = watcher.files() + watcher.directories();
-    if (!watched.isEmpty())
-        watcher.removePaths(watched);
-    // A file that is replaced by another one is no longer watched: its folder is.
-    watcher.addPaths({path, QFileInfo(path).path()});
-}
-
-void MainWindow::lookForChange()
-{
-    if (loader.isLoading()) {
-        changeTimer.start();
-        return;
-    }
-    const QString path = desk.source()->path;
-    const survey::FileState state{QFileInfo(path)};
-    if (!state.differs(shownState))
-        return;
-    shownState = state;
-    watch(path);
-    offerToRead(
-        withText(Words::tr("%1 has changed on the disk.").arg(QDir::toNativeSeparators(path))));
 }
 
 void MainWindow::showFinding(const survey::Finding &finding)
@@ -498,34 +358,11 @@ void MainWindow::endConversion()
 {
     const std::unique_ptr<Conversion> ended = std::move(conversion);
     if (ended->outcome())
-        tellOutcome(*ended->outcome());
+        tell(outcomeInWords(*ended->outcome()).join(u'\n'));
     else
         tell(withText(Words::tr("The conversion was stopped; the destination is as it was.")));
     showProgress();
     showState();
-}
-
-void MainWindow::tellOutcome(const delivery::Outcome &outcome)
-{
-    using File = delivery::Replacement::Outcome;
-    const QString file = QDir::toNativeSeparators(outcome.destination);
-    QStringList lines;
-    const QString reason = words::sentence(outcome.reason);
-    if (!reason.isEmpty() || outcome.exitCode == delivery::NotRead) {
-        lines.append(Words::tr("%1 was not written.").arg(file));
-        if (!reason.isEmpty())
-            lines.append(reason);
-        lines += errorsOf(outcome.survey);
-    } else {
-        lines.append((outcome.file == File::Created    ? Words::tr("%1 was created: %2.")
-                      : outcome.file == File::Replaced ? Words::tr("%1 was replaced: %2.")
-                                                       : Words::tr("%1 has it all already: %2."))
-                         .arg(file, words::countsInWords(outcome.survey.counts)));
-        const QString levels = words::levelsInWords(outcome.survey);
-        if (!levels.isEmpty())
-            lines.append(levels);
-    }
-    tell(lines.join(u'\n'));
 }
 
 void MainWindow::askHowToCopy()
@@ -649,7 +486,7 @@ void MainWindow::restoreSettings()
     goods->restore(settings);
     orders->restore(settings);
     findings->restore(settings);
-    showColumns();
+    columns->showColumns();
     const auto isSet = [this](const char *key, bool usual) {
         return settings.value(QLatin1String(key), usual).toBool();
     };

@@ -1,19 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "survey/filestate.h"
 #include "window/conversion.h"
 #include "window/desk.h"
 #include "window/loader.h"
+#include "window/sourcewatch.h"
 
-#include <QFileSystemWatcher>
-#include <QKeySequence>
 #include <QMainWindow>
 #include <QTimer>
 
 class QAction;
 class QLabel;
-class QMenu;
 class QProgressBar;
 class QPushButton;
 class QSettings;
@@ -22,11 +19,13 @@ class QTabWidget;
 namespace window
 {
 
+class ColumnsMenu;
 class FindingsPage;
 class GoodsPage;
 class InfoBar;
 class OrdersPage;
 class OverviewPage;
+class RecentMenu;
 
 class MainWindow : public QMainWindow
 {
@@ -49,14 +48,10 @@ protected:
     void dropEvent(QDropEvent *event) override;
 
 private:
-    QAction *add(QMenu *menu, const QString &name, const QString &text, const QKeySequence &key,
-                 const std::function<void()> &triggered);
     void addMenus();
     void addFileMenu();
     void addCopyMenu();
-    void addRecentMenu(QMenu *menu);
     void addViewMenu();
-    void addColumnsMenu(QMenu *menu);
 
     void askForSource();
     void readAgain(); ///< what is being read, or else what is shown
@@ -67,17 +62,10 @@ private:
     QString withText(const QString &text) const; ///< behind what the bar tells already
     void offerToRead(const QString &text);
 
-    void addRecent(const QString &path);
-    void showRecent();
-    void showColumns();
-    void watch(const QString &path);
-    void lookForChange();
-
     void showFinding(const survey::Finding &finding);
     void askWhereToSave();
     void askForDestination();
     void endConversion();
-    void tellOutcome(const delivery::Outcome &outcome);
     void askHowToCopy();
     void copyGoods(bool onlyChosen);
     void copyOrder();
@@ -93,10 +81,8 @@ private:
     Desk desk;
     CopyOptions copying;
     std::unique_ptr<Conversion> conversion; ///< null where none is going on
-    QFileSystemWatcher watcher;
-    QTimer changeTimer;
+    SourceWatch watch;
     QTimer progressTimer;
-    survey::FileState shownState; ///< or of the change that was told of since
 
     GoodsPage *goods;
     OrdersPage *orders;
@@ -107,9 +93,8 @@ private:
     QProgressBar *progress;
     QPushButton *stopButton;
     QLabel *state;
-    QMenu *recentMenu = nullptr;
-    QVector<QAction *> recentActions;
-    QVector<QAction *> columnActions;
+    RecentMenu *recent;
+    ColumnsMenu *columns;
 
     QAction *readAgainAction = nullptr;
     QAction *stopAction = nullptr;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "window/orderspage.h"
 
+#include "window/texts.h"
 #include "window/views.h"
 #include "words/language.h"
 

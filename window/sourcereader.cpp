@@ -4,9 +4,9 @@
 #include "export/commerceml/walks.h"
 #include "reader/tree.h"
 #include "reader/vocabulary.h"
+#include "window/grouptree.h"
 #include "words/language.h"
 
-#include <QHash>
 #include <QSet>
 
 #include <new>
@@ -85,51 +85,6 @@ Good goodFrom(const Item &item)
     return good;
 }
 
-/// The groups of a source. Those of one path are one, as they are in the exchange file.
-class GroupTree
-{
-public:
-    /// The place of the group at the end of a path.
-    int placeOf(const PathIndex::Node &bottom)
-    {
-        int place = -1;
-        if (bottom.flaw == PathIndex::Flaw::Loop && !places.contains(&bottom)) {
-            for (const QString &name : PathIndex::names(bottom))
-                place = childOf(place, name);
-            places.insert(&bottom, place);
-        }
-        QVector<const PathIndex::Node *> unknown;
-        const PathIndex::Node *node = &bottom;
-        for (; node != nullptr && !places.contains(node); node = node->above)
-            unknown.append(node);
-        place = places.value(node, -1);
-        for (auto next = unknown.crbegin(); next != unknown.crend(); ++next) {
-            place = childOf(place, (*next)->name.value_or(QString()));
-            places.insert(*next, place);
-        }
-        return place;
-    }
-
-    QVector<Group> groups;
-
-private:
-    int childOf(int parent, const QString &name)
-    {
-        const auto known = children.constFind({parent, name});
-        if (known != children.cend())
-            return *known;
-        const int place = int(groups.size());
-        groups.append({name, parent, {}, 0});
-        if (parent >= 0)
-            groups[parent].children.append(place);
-        children.insert({parent, name}, place);
-        return place;
-    }
-
-    QHash<const PathIndex::Node *, int> places;
-    QHash<std::pair<int, QString>, int> children;
-};
-
 void countPrices(Source &source)
 {
     for (const Good &good : source.goods) {
@@ -143,19 +98,6 @@ void countPrices(Source &source)
              limit *= 10)
             ++range;
         ++source.goodsByPrice[range];
-    }
-}
-
-void countGoods(QVector<Group> &groups, const QVector<Good> &goods)
-{
-    for (const Good &good : goods) {
-        if (good.group >= 0)
-            ++groups[good.group].goods;
-    }
-    for (auto place = groups.size() - 1; place >= 0; --place) {
-        const Group &group = std::as_const(groups).at(place);
-        if (group.parent >= 0)
-            groups[group.parent].goods += group.goods;
     }
 }
 
@@ -224,8 +166,7 @@ try {
     takePicture();
     goodsRows.clear();
     description = nullptr;
-    source.groups = begun.tree.groups;
-    countGoods(source.groups, source.goods);
+    source.groups = begun.tree.counted(source.goods);
     countPrices(source);
     return true;
 } catch (const Stopped &) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "window/tables.h"
 
+#include "window/texts.h"
 #include "words/findings.h"
 #include "words/language.h"
 
@@ -44,28 +45,6 @@ void GoodsModel::show(SourcePointer newSource, QVector<int> newPlaces)
         source = std::move(newSource);
         places = std::move(newPlaces);
     });
-}
-
-QString sentence(exporter::Loss loss)
-{
-    using exporter::Loss;
-    using survey::Kind;
-    const auto ofKind = [](Kind kind) {
-        return words::sentence({kind, survey::infoOf(kind).level, {}, true, {}, {}});
-    };
-    switch (loss) {
-    case Loss::NoPartner:
-        return ofKind(Kind::NoPartner);
-    case Loss::NoNumber:
-        return ofKind(Kind::NoNumber);
-    case Loss::NoLines:
-        return ofKind(Kind::NoLines);
-    case Loss::BehindTheEnd:
-        return Words::tr("it stands behind a document without lines, at which the export ends");
-    case Loss::NoCode:
-        return Words::tr("it has no code");
-    }
-    return {};
 }
 
 OrdersModel::OrdersModel()
@@ -192,13 +171,6 @@ void KindsModel::show(const SourcePointer &source)
 std::optional<survey::Kind> KindsModel::kindAt(int row) const
 {
     return row <= 0 ? std::nullopt : std::optional(kinds.at(row - 1).kind);
-}
-
-QString placeInWords(const SourcePosition &position)
-{
-    if (position.line == 0)
-        return {};
-    return Words::tr("line %1, column %2").arg(position.line).arg(position.column);
 }
 
 FindingsModel::FindingsModel()

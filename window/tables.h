@@ -110,10 +110,4 @@ private:
     QVector<int> places;
 };
 
-/// Why a document is not exported, or only in part.
-QString sentence(exporter::Loss loss);
-
-/// "line 3, column 5"; empty where there is none to tell.
-QString placeInWords(const SourcePosition &position);
-
 } // namespace window

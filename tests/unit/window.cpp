@@ -830,8 +830,7 @@ int main(int argc, char *argv[])
     delivery::prepareProgram();
     if (delivery::isWorker(argc, argv))
         return delivery::beWorker(argc, argv);
-    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); // a test closes them
-    // Those of the system can't be found by their class.
+    // A test closes them, and those of the system can't be found by their class.
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     const QApplication application(argc, argv);
     delivery::prepareApplication();

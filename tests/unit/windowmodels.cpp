@@ -3,6 +3,7 @@
 #include "window/groupsmodel.h"
 #include "window/loader.h"
 #include "window/tables.h"
+#include "window/texts.h"
 
 #include <QtTest>
 
