@@ -24,6 +24,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QMimeData>
 #include <QProgressBar>
 #include <QPushButton>
@@ -118,6 +119,9 @@ void MainWindow::addMenus()
     addFileMenu();
     addCopyMenu();
     addViewMenu();
+    QMenu *const help = menuBar()->addMenu(Words::tr("&Help"));
+    addEntry(*help, QStringLiteral("about"), Words::tr("&About xml2ryk"), Qt::Key_F1,
+             [this] { showAbout(); });
 }
 
 void MainWindow::addFileMenu()
@@ -416,6 +420,15 @@ void MainWindow::putOnClipboard(SourceReader &reader)
                      : Words::tr("There is nothing to copy."));
     reader.forgetRows();
     showState();
+}
+
+void MainWindow::showAbout()
+{
+    QMessageBox::about(this, Words::tr("About xml2ryk"),
+                       Words::tr("xml2ryk %1 shows, checks and converts trade data.\n\n"
+                                 "Its licence is MIT. It is made with Qt %2, whose licence is "
+                                 "the LGPL, version 3.")
+                           .arg(QLatin1String(XML2RYK_VERSION), QLatin1String(qVersion())));
 }
 
 void MainWindow::showProgress()

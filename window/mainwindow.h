@@ -71,6 +71,7 @@ private:
     void copyOrder();
     void putOnClipboard(SourceReader &reader);
 
+    void showAbout();
     void showProgress();
     void showState();
     void saveSettings();

@@ -26,7 +26,7 @@ GoodsModel::GoodsModel()
               {QT_TRANSLATE_NOOP("Words", "Name"), field(GoodField::Name), 40},
               {QT_TRANSLATE_NOOP("Words", "Group"), field(GoodField::Group), 30},
               {QT_TRANSLATE_NOOP("Words", "Unit"), field(GoodField::Unit), 8},
-              {QT_TRANSLATE_NOOP("Words", "Barcode"), field(GoodField::Barcode), 16},
+              {QT_TRANSLATE_NOOP("Words", "Barcode"), field(GoodField::Barcode), 20},
               {QT_TRANSLATE_NOOP("Words", "Prices"), field(GoodField::Prices), 16, true},
               {QT_TRANSLATE_NOOP("Words", "Maker"), field(GoodField::Maker), 16},
               {QT_TRANSLATE_NOOP("Words", "Country"), field(GoodField::Country)},

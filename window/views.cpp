@@ -3,6 +3,8 @@
 
 #include <QHeaderView>
 
+#include <algorithm>
+
 namespace window
 {
 
@@ -27,9 +29,11 @@ QTableView *tableView(TableModel &model, const QString &accessibleName)
     view->horizontalHeader()->setSectionsMovable(true);
     view->horizontalHeader()->setStretchLastSection(true);
     view->horizontalHeader()->setHighlightSections(false);
-    for (int column = 0; column < model.columnCount(); ++column)
+    for (int column = 0; column < model.columnCount(); ++column) {
+        const int width = model.widthOf(column) * view->fontMetrics().averageCharWidth();
         view->setColumnWidth(column,
-                             model.widthOf(column) * view->fontMetrics().averageCharWidth());
+                             std::max(width, view->horizontalHeader()->sectionSizeHint(column)));
+    }
     return view;
 }
 

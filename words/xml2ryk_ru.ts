@@ -1515,5 +1515,25 @@
         <source>%1 has changed on the disk.</source>
         <translation>%1: файл на диске изменился.</translation>
     </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>С&amp;правка</translation>
+    </message>
+    <message>
+        <source>&amp;About xml2ryk</source>
+        <translation>&amp;О программе xml2ryk</translation>
+    </message>
+    <message>
+        <source>About xml2ryk</source>
+        <translation>О программе xml2ryk</translation>
+    </message>
+    <message>
+        <source>xml2ryk %1 shows, checks and converts trade data.
+
+Its licence is MIT. It is made with Qt %2, whose licence is the LGPL, version 3.</source>
+        <translation>xml2ryk %1 показывает, проверяет и преобразует торговые данные.
+
+Лицензия программы — MIT. Она сделана с Qt %2, лицензия которого — LGPL версии 3.</translation>
+    </message>
 </context>
 </TS>
