@@ -72,7 +72,7 @@ QVector<int> arranged(const Source &source, const Arrangement &arrangement,
     const auto text = [&](int place) -> const QString & {
         return source.goods.at(place).field(field);
     };
-    if (field == GoodField::Prices || field == GoodField::Weight) {
+    if (goodFields[std::size_t(field)].isNumber) {
         constexpr double none = std::numeric_limits<double>::infinity(); // comes last, either way
         const int sign = arrangement.order == Qt::AscendingOrder ? 1 : -1;
         sortBy<double>(places, Qt::AscendingOrder, [&](int place) {

@@ -4,6 +4,11 @@
 #include <QCoreApplication>
 #include <QEvent>
 
+#include <chrono>
+#include <condition_variable>
+#include <deque>
+#include <mutex>
+#include <thread>
 #include <utility>
 
 namespace window
@@ -11,6 +16,11 @@ namespace window
 
 namespace
 {
+
+struct Piece {
+    std::function<void()> work;
+    std::function<void()> done;
+};
 
 /// That a piece of work is done.
 class DoneEvent : public QEvent
@@ -23,45 +33,69 @@ public:
 
 } // namespace
 
+/// What the thread works with; it may outlive the object.
+struct Background::Shared {
+    std::mutex mutex;
+    std::condition_variable changed;
+    std::deque<Piece> pieces;
+    Background *object = nullptr; ///< null when it ends
+    bool isWorking = false;
+    bool hasThread = false;
+};
+
+Background::Background(std::chrono::seconds patience)
+    : shared(std::make_shared<Shared>()), patience(patience)
+{
+    shared->object = this;
+}
+
 Background::~Background()
 {
-    {
-        const std::lock_guard<std::mutex> lock(mutex);
-        isEnding = true;
-    }
-    condition.notify_one();
-    if (thread.joinable())
-        thread.join();
+    std::unique_lock<std::mutex> lock(shared->mutex);
+    shared->object = nullptr;
+    shared->pieces.clear();
+    shared->changed.notify_all();
+    shared->changed.wait_for(lock, patience, [this] { return !shared->hasThread; });
 }
 
 void Background::run(std::function<void()> work, std::function<void()> done)
 {
-    {
-        const std::lock_guard<std::mutex> lock(mutex);
-        pieces.push_back({std::move(work), std::move(done)});
-    }
-    if (!thread.joinable())
-        thread = std::thread([this] { workOff(); });
-    condition.notify_one();
+    const std::lock_guard<std::mutex> lock(shared->mutex);
+    shared->pieces.push_back({std::move(work), std::move(done)});
+    shared->changed.notify_all();
+    if (shared->hasThread)
+        return;
+    std::thread([shared = shared] { workOff(*shared); }).detach();
+    shared->hasThread = true;
 }
 
-void Background::workOff()
+bool Background::isBusy() const
 {
+    const std::lock_guard<std::mutex> lock(shared->mutex);
+    return shared->isWorking || !shared->pieces.empty();
+}
+
+void Background::workOff(Shared &shared)
+{
+    std::unique_lock<std::mutex> lock(shared.mutex);
     while (true) {
-        Piece piece;
-        {
-            std::unique_lock<std::mutex> lock(mutex);
-            condition.wait(lock, [this] { return isEnding || !pieces.empty(); });
-            if (isEnding)
-                return;
-            piece = std::move(pieces.front());
-            pieces.pop_front();
-        }
+        shared.changed.wait(lock,
+                            [&] { return shared.object == nullptr || !shared.pieces.empty(); });
+        if (shared.object == nullptr)
+            break;
+        Piece piece = std::move(shared.pieces.front());
+        shared.pieces.pop_front();
+        shared.isWorking = true;
+        lock.unlock();
         piece.work();
         piece.work = {}; // what it holds is not for the other thread
-        if (piece.done)
-            QCoreApplication::postEvent(this, new DoneEvent(std::move(piece.done)));
+        lock.lock();
+        shared.isWorking = false;
+        if (piece.done && shared.object != nullptr)
+            QCoreApplication::postEvent(shared.object, new DoneEvent(std::move(piece.done)));
     }
+    shared.hasThread = false;
+    shared.changed.notify_all();
 }
 
 void Background::customEvent(QEvent *event)

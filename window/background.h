@@ -3,11 +3,9 @@
 
 #include <QObject>
 
-#include <condition_variable>
-#include <deque>
+#include <chrono>
 #include <functional>
-#include <mutex>
-#include <thread>
+#include <memory>
 
 namespace window
 {
@@ -17,32 +15,33 @@ namespace window
 class Background : public QObject
 {
 public:
-    Background() = default;
+    /// `patience` is what the destructor has.
+    explicit Background(std::chrono::seconds patience = std::chrono::hours(24));
 
-    /// Waits for the piece that is being done; the others are not done any more.
+    /// Waits for the piece that is being done; the others are not done any more. One that takes
+    /// longer, as where the disk of another machine does not answer, is left behind with its
+    /// thread.
     ~Background() override;
 
     Q_DISABLE_COPY(Background)
 
-    /// `done` is called in the event loop of this object's thread, as long as this is there.
+    /// `done` is called in the event loop of this object's thread, as long as this is there. `work`
+    /// may not throw.
     void run(std::function<void()> work, std::function<void()> done = {});
+
+    /// Whether some work is not done yet.
+    bool isBusy() const;
 
 protected:
     void customEvent(QEvent *event) override;
 
 private:
-    struct Piece {
-        std::function<void()> work;
-        std::function<void()> done;
-    };
+    struct Shared;
 
-    void workOff();
+    static void workOff(Shared &shared);
 
-    std::mutex mutex;
-    std::condition_variable condition;
-    std::deque<Piece> pieces;
-    bool isEnding = false;
-    std::thread thread;
+    const std::shared_ptr<Shared> shared;
+    const std::chrono::seconds patience;
 };
 
 } // namespace window

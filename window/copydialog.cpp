@@ -5,9 +5,11 @@
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
-#include <QDoubleSpinBox>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
+
+#include <cmath>
 
 using words::Words;
 
@@ -16,46 +18,51 @@ namespace window
 
 CopyDialog::CopyDialog(const CopyOptions &options, QWidget *parent)
     : QDialog(parent),
-      prefixRows(new QCheckBox(Words::tr("Begin rows with &##"))),
-      withDescription(new QCheckBox(Words::tr("With &descriptions"))),
-      markHtml(new QCheckBox(Words::tr("Descriptions are &HTML"))),
-      extendedOffers(new QCheckBox(Words::tr("&Extended offers of shop feeds"))),
       applyFactor(new QCheckBox(Words::tr("&Multiply the prices of offers by"))),
-      priceFactor(new QDoubleSpinBox)
+      priceFactor(new QLineEdit)
 {
     setWindowTitle(Words::tr("How to copy goods"));
     priceFactor->setAccessibleName(Words::tr("Factor of prices"));
-    priceFactor->setDecimals(4);
-    priceFactor->setRange(0.0001, 1000000);
-    prefixRows->setChecked(options.prefixRows);
-    withDescription->setChecked(options.withDescription);
-    markHtml->setChecked(options.markHtml);
-    extendedOffers->setChecked(options.extendedOffers);
     applyFactor->setChecked(options.priceFactor.has_value());
-    priceFactor->setValue(options.priceFactor.value_or(1.0));
-    priceFactor->setEnabled(applyFactor->isChecked());
-    connect(applyFactor, &QCheckBox::toggled, priceFactor, &QWidget::setEnabled);
+    priceFactor->setText(QString::number(options.priceFactor.value_or(1.0), 'g', 15));
 
     auto *const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     buttons->button(QDialogButtonBox::Cancel)->setText(Words::tr("Cancel"));
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    const auto check = [this, ok = buttons->button(QDialogButtonBox::Ok)] {
+        priceFactor->setEnabled(applyFactor->isChecked());
+        ok->setEnabled(!applyFactor->isChecked() || factor());
+    };
+    connect(applyFactor, &QCheckBox::toggled, this, check);
+    connect(priceFactor, &QLineEdit::textChanged, this, check);
+    check();
+
     auto *const layout = new QVBoxLayout(this);
-    for (QWidget *const field : std::initializer_list<QWidget *>{
-             prefixRows, withDescription, markHtml, extendedOffers, applyFactor, priceFactor})
+    for (std::size_t i = 0; i < switches.size(); ++i) {
+        switches[i] = new QCheckBox(Words::tr(copySwitches[i].text));
+        switches[i]->setChecked(options.*copySwitches[i].option);
+        layout->addWidget(switches[i]);
+    }
+    for (QWidget *const field : std::initializer_list<QWidget *>{applyFactor, priceFactor, buttons})
         layout->addWidget(field);
-    layout->addWidget(buttons);
+}
+
+std::optional<double> CopyDialog::factor() const
+{
+    // With either decimal mark, whatever the language: a feed may have the other one.
+    bool isNumber = false;
+    const double number = priceFactor->text().replace(u',', u'.').toDouble(&isNumber);
+    return isNumber && number > 0 && std::isfinite(number) ? std::optional(number) : std::nullopt;
 }
 
 CopyOptions CopyDialog::options() const
 {
     CopyOptions chosen;
-    chosen.prefixRows = prefixRows->isChecked();
-    chosen.withDescription = withDescription->isChecked();
-    chosen.markHtml = markHtml->isChecked();
-    chosen.extendedOffers = extendedOffers->isChecked();
+    for (std::size_t i = 0; i < switches.size(); ++i)
+        chosen.*copySwitches[i].option = switches[i]->isChecked();
     if (applyFactor->isChecked())
-        chosen.priceFactor = priceFactor->value();
+        chosen.priceFactor = factor();
     return chosen;
 }
 

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "window/sourcereader.h"
+#include "window/copyoptions.h"
 
 #include <QDialog>
 
+#include <array>
+
 class QCheckBox;
-class QDoubleSpinBox;
+class QLineEdit;
 
 namespace window
 {
@@ -20,12 +22,12 @@ public:
     CopyOptions options() const;
 
 private:
-    QCheckBox *prefixRows;
-    QCheckBox *withDescription;
-    QCheckBox *markHtml;
-    QCheckBox *extendedOffers;
+    /// Nothing where what is written is none.
+    std::optional<double> factor() const;
+
+    std::array<QCheckBox *, copySwitches.size()> switches;
     QCheckBox *applyFactor;
-    QDoubleSpinBox *priceFactor;
+    QLineEdit *priceFactor;
 };
 
 } // namespace window

@@ -26,6 +26,11 @@ void Desk::putAway(Opened opened)
     background.run([old] { *old = {}; });
 }
 
+void Desk::run(std::function<void()> work, std::function<void()> tell)
+{
+    background.run(std::move(work), std::move(tell));
+}
+
 void Desk::arrange(const Arrangement &arrangement,
                    std::function<void(const QVector<int> &places)> tell)
 {

@@ -30,6 +30,9 @@ public:
     /// then if `isReaderLost`.
     std::function<void(bool isReaderLost)> ranOut;
 
+    /// Has this done there, and tells here that it is. What is done may not throw.
+    void run(std::function<void()> work, std::function<void()> tell);
+
     /// The latest one counts: those before it are not told of any more.
     void arrange(const Arrangement &arrangement,
                  std::function<void(const QVector<int> &places)> tell);

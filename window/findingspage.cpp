@@ -44,13 +44,6 @@ void FindingsPage::show(const SourcePointer &newSource)
     kindsView->selectRow(0);
 }
 
-QByteArray FindingsPage::toCsv() const
-{
-    FindingsModel all;
-    all.show(source, std::nullopt);
-    return all.toCsv();
-}
-
 void FindingsPage::save(QSettings &settings) const
 {
     window::save(settings, QStringLiteral("findings/rows"), *rows);

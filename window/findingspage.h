@@ -25,9 +25,6 @@ public:
 
     void show(const SourcePointer &newSource);
 
-    /// All of them, whichever kind is shown, as a table for other programs.
-    QByteArray toCsv() const;
-
     void save(QSettings &settings) const;
     void restore(const QSettings &settings);
 

@@ -5,6 +5,7 @@
 #include "window/views.h"
 #include "words/language.h"
 
+#include <QAction>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -32,9 +33,26 @@ protected:
     }
 };
 
+/// A field that leaves the keys of actions to them, also those that would mean something in it.
+class FilterField : public QLineEdit
+{
+protected:
+    bool event(QEvent *event) override
+    {
+        if (event->type() != QEvent::ShortcutOverride)
+            return QLineEdit::event(event);
+        const auto *const pressed = dynamic_cast<QKeyEvent *>(event);
+        const QKeySequence keys(int(pressed->modifiers()) + pressed->key());
+        const QList<QAction *> actions = window()->findChildren<QAction *>();
+        const bool isTaken = std::any_of(actions.cbegin(), actions.cend(),
+                                         [&](QAction *one) { return one->shortcut() == keys; });
+        return !isTaken && QLineEdit::event(event);
+    }
+};
+
 GoodsPage::GoodsPage(Desk &desk)
     : desk(desk),
-      filterField(new QLineEdit),
+      filterField(new FilterField),
       groupsView(new GroupsView),
       goodsView(tableView(goods, Words::tr("Goods"))),
       description(new TextView),
@@ -227,8 +245,8 @@ void GoodsPage::arrange(std::optional<int> toChoose)
     arrangement.group = GroupsModel::groupAt(groupsView->currentIndex());
     const QHeaderView *const header = goodsView->horizontalHeader();
     const int column = header->sortIndicatorSection();
-    if (column >= 0 && column < goodFieldCount)
-        arrangement.sortedBy = GoodField(column);
+    if (column >= 0 && column < goods.columnCount())
+        arrangement.sortedBy = goodFields[std::size_t(column)].field;
     arrangement.order = header->sortIndicatorOrder();
     desk.arrange(arrangement,
                  [this, toChoose](const QVector<int> &places) { show(places, toChoose); });

@@ -6,17 +6,13 @@ namespace window
 
 int GroupTree::placeOf(const PathIndex::Node &bottom)
 {
-    int place = -1;
-    if (bottom.flaw == PathIndex::Flaw::Loop && !places.contains(&bottom)) {
-        for (const QString &name : PathIndex::names(bottom))
-            place = childOf(place, name);
-        places.insert(&bottom, place);
-    }
     QVector<const PathIndex::Node *> unknown;
     const PathIndex::Node *node = &bottom;
-    for (; node != nullptr && !places.contains(node); node = node->above)
+    while (node != nullptr && !places.contains(node)) {
         unknown.append(node);
-    place = places.value(node, -1);
+        node = node->isInLoop ? nullptr : node->above;
+    }
+    int place = places.value(node, -1);
     for (auto next = unknown.crbegin(); next != unknown.crend(); ++next) {
         place = childOf(place, (*next)->name.value_or(QString()));
         places.insert(*next, place);

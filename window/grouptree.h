@@ -12,7 +12,8 @@
 namespace window
 {
 
-/// The groups of a source. Those of one path are one, as they are in the exchange file.
+/// The groups of a source. Those of one path are one, as they are in the exchange file. Each one of
+/// a loop is at the top: to give it its path would take the square of the loop.
 class GroupTree
 {
 public:

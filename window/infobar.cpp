@@ -25,7 +25,7 @@ InfoBar::InfoBar() : label(new QLabel), button(new QPushButton)
     label->setWordWrap(true);
     label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a path may have no blanks
     label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    auto *const close = new QPushButton(Words::tr("Close message"));
+    auto *const close = new QPushButton(Words::tr("Close &message"));
     auto *const layout = new QHBoxLayout(this);
     layout->addWidget(label, 1);
     layout->addWidget(button);
@@ -41,17 +41,39 @@ InfoBar::InfoBar() : label(new QLabel), button(new QPushButton)
 
 void InfoBar::tell(const QString &text)
 {
-    offer(text, QString(), {});
+    message = text;
+    showMessages();
 }
 
-void InfoBar::offer(const QString &text, const QString &buttonText, std::function<void()> accepted)
+void InfoBar::tellToo(const QString &text)
 {
+    tell(isHidden() || message.isEmpty() ? text : message + u'\n' + text);
+}
+
+void InfoBar::remind(const QString &text, const QString &buttonText, std::function<void()> accepted)
+{
+    if (isHidden())
+        message.clear();
+    reminder = text;
+    button->setText(buttonText);
+    accept = std::move(accepted);
+    showMessages();
+}
+
+void InfoBar::forgetReminder()
+{
+    reminder.clear();
+}
+
+void InfoBar::showMessages()
+{
+    QStringList texts = {message, reminder};
+    texts.removeAll(QString());
+    const QString text = texts.join(u'\n');
     label->setText(text);
     label->setAccessibleName(text);
     label->setToolTip(text);
-    button->setText(buttonText);
-    button->setVisible(!buttonText.isEmpty());
-    accept = std::move(accepted);
+    button->setVisible(!reminder.isEmpty());
     show();
     QAccessibleEvent told(label, QAccessible::Alert);
     QAccessible::updateAccessibility(&told);

@@ -11,7 +11,7 @@ class QPushButton;
 namespace window
 {
 
-/// A message in the window that stays until it is closed, or another one comes.
+/// Messages in the window. They stay until they are closed, or another one comes.
 class InfoBar : public QFrame
 {
 public:
@@ -19,15 +19,24 @@ public:
 
     void tell(const QString &text);
 
-    /// With a button for what can be done about it.
-    void offer(const QString &text, const QString &button, std::function<void()> accepted);
+    /// Behind what it tells already.
+    void tellToo(const QString &text);
 
+    /// Tells this behind each message from now on, with a button for what can be done about it.
+    void remind(const QString &text, const QString &button, std::function<void()> accepted);
+    void forgetReminder();
+
+    /// All that it tells; empty if it is closed.
     QString text() const;
 
 private:
+    void showMessages();
+
+    QString message;
+    QString reminder; ///< null where there is none
+    std::function<void()> accept;
     QLabel *label;
     QPushButton *button;
-    std::function<void()> accept;
 };
 
 } // namespace window

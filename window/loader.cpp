@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "window/loader.h"
 
+#include <algorithm>
 #include <atomic>
+#include <chrono>
 #include <utility>
 
 namespace window
 {
+
+constexpr std::chrono::seconds patience(2); // of who closes the window
 
 struct Loader::Attempt {
     QString path;
@@ -18,6 +22,13 @@ struct Loader::Attempt {
 void Loader::open(const QString &path, bool purchase)
 {
     stop();
+    leftBehind.erase(std::remove_if(leftBehind.begin(), leftBehind.end(),
+                                    [](const auto &one) { return !one->isBusy(); }),
+                     leftBehind.end());
+    if (background && background->isBusy())
+        leftBehind.push_back(std::move(background));
+    if (!background)
+        background = std::make_unique<Background>(patience);
     const auto attempt = std::make_shared<Attempt>();
     attempt->path = path;
     current = attempt;
@@ -27,16 +38,15 @@ void Loader::open(const QString &path, bool purchase)
             attempt->total = total;
             return !attempt->isStopped;
         };
-        if (!attempt->isStopped)
-            attempt->result = openSource(attempt->path, purchase, goesOn);
+        attempt->result = openSource(attempt->path, purchase, goesOn);
     };
-    background.run(load, [this, attempt] {
+    background->run(load, [this, attempt, own = background.get()] {
         if (attempt == current) {
             current.reset();
             opened(std::move(attempt->result));
         } else {
             // To free a tree takes its time.
-            background.run([attempt] { attempt->result = {}; });
+            own->run([attempt] { attempt->result = {}; });
         }
     });
 }

@@ -8,11 +8,13 @@
 
 #include <functional>
 #include <memory>
+#include <vector>
 
 namespace window
 {
 
-/// Opens one source after the other, off the thread that asks for it.
+/// Opens one source after the other, off the thread that asks for it. One that was stopped and does
+/// not heed it, as where a disk does not answer, is in nobody's way.
 class Loader
 {
 public:
@@ -39,7 +41,8 @@ private:
     struct Attempt;
 
     std::shared_ptr<Attempt> current;
-    Background background;
+    std::unique_ptr<Background> background;
+    std::vector<std::unique_ptr<Background>> leftBehind;
 };
 
 } // namespace window

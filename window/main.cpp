@@ -54,8 +54,8 @@ int main(int argc, char *argv[])
                        QStringLiteral("window"));
     window::MainWindow window(settings);
     window.show();
-    const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.size() > 1)
-        window.open(arguments.at(1));
+    const QString source = QCoreApplication::arguments().value(1);
+    if (!source.isEmpty())
+        window.open(source);
     return QApplication::exec();
 }

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "window/mainwindow.h"
 
-#include "window/copydialog.h"
 #include "window/findingspage.h"
 #include "window/goodspage.h"
 #include "window/infobar.h"
@@ -11,16 +10,13 @@
 #include "window/texts.h"
 #include "words/findings.h"
 #include "words/language.h"
-#include "words/outcomes.h"
 
 #include <QAction>
-#include <QClipboard>
 #include <QCloseEvent>
 #include <QDir>
 #include <QDragEnterEvent>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QGuiApplication>
 #include <QHeaderView>
 #include <QLabel>
 #include <QMenuBar>
@@ -28,23 +24,18 @@
 #include <QMimeData>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QSaveFile>
 #include <QSettings>
 #include <QStatusBar>
 #include <QTabWidget>
 #include <QTableView>
 #include <QVBoxLayout>
 
-#include <algorithm>
-#include <new>
 #include <utility>
 
 using words::Words;
 
 namespace window
 {
-
-static const QString destinationKey = QStringLiteral("destinationFolder");
 
 MainWindow::MainWindow(QSettings &settings)
     : settings(settings),
@@ -54,6 +45,8 @@ MainWindow::MainWindow(QSettings &settings)
       overview(new OverviewPage),
       pages(new QTabWidget),
       infoBar(new InfoBar),
+      copying(desk, *infoBar),
+      saving(desk, settings, *infoBar, *this),
       progress(new QProgressBar),
       stopButton(new QPushButton(Words::tr("Stop"))),
       state(new QLabel),
@@ -70,6 +63,7 @@ MainWindow::MainWindow(QSettings &settings)
     layout->addWidget(pages);
     setCentralWidget(center);
     progress->setAccessibleName(Words::tr("Progress"));
+    state->setTextFormat(Qt::PlainText); // it tells names of files
     statusBar()->addWidget(state, 1);
     statusBar()->addPermanentWidget(progress);
     statusBar()->addPermanentWidget(stopButton);
@@ -83,20 +77,26 @@ MainWindow::MainWindow(QSettings &settings)
                 Words::tr("Memory ran out. Nothing more can be copied of the source until it "
                           "is read again."));
         else
-            tell(Words::tr("memory ran out"));
+            infoBar->tell(Words::tr("memory ran out"));
         showState();
     };
     loader.opened = [this](Opened opened) { showOpened(std::move(opened)); };
     goods->changed = [this] { showState(); };
     orders->changed = [this] { showState(); };
+    copying.changed = [this] { showState(); };
+    saving.changed = [this] {
+        showProgress();
+        showState();
+    };
     findings->activated = [this](const survey::Finding &finding) { showFinding(finding); };
     connect(stopButton, &QPushButton::clicked, stopAction, &QAction::trigger);
     recent->chosen = [this](const QString &path) { open(path); };
     columns->changing = [this] { pages->setCurrentWidget(goods); };
     watch.waits = [this] { return loader.isLoading(); };
-    watch.changed = [this](const QString &path) {
-        offerToRead(
-            withText(Words::tr("%1 has changed on the disk.").arg(QDir::toNativeSeparators(path))));
+    watch.changed = [this](const QString &path, bool isThere) {
+        const QString text = isThere ? Words::tr("%1 has changed on the disk.")
+                                     : Words::tr("%1 is no longer on the disk.");
+        offerToRead(text.arg(QDir::toNativeSeparators(path)));
     };
     constexpr int pause = 100;
     progressTimer.setInterval(pause);
@@ -140,10 +140,10 @@ void MainWindow::addFileMenu()
                  QStringLiteral("Ctrl+P"), [this] { readAgain(); });
     purchaseAction->setCheckable(true);
     convertAction = addEntry(*menu, QStringLiteral("convert"), Words::tr("&Convert..."),
-                             QStringLiteral("Ctrl+E"), [this] { askForDestination(); });
+                             QStringLiteral("Ctrl+E"), [this] { saving.askForDestination(); });
     saveFindingsAction =
         addEntry(*menu, QStringLiteral("saveFindings"), Words::tr("Save &findings as a table..."),
-                 QKeySequence::Save, [this] { askWhereToSave(); });
+                 QKeySequence::Save, [this] { saving.askForTable(); });
     menu->addSeparator();
     addEntry(*menu, QStringLiteral("quit"), Words::tr("&Quit"), QStringLiteral("Ctrl+Q"),
              [this] { close(); });
@@ -154,16 +154,16 @@ void MainWindow::addCopyMenu()
     QMenu *const menu = menuBar()->addMenu(Words::tr("&Copy"));
     copyChosenAction =
         addEntry(*menu, QStringLiteral("copyChosen"), Words::tr("&Chosen goods"),
-                 QStringLiteral("Ctrl+Shift+C"), [this] { copyGoods(/*onlyChosen=*/true); });
-    copyAllAction =
-        addEntry(*menu, QStringLiteral("copyAll"), Words::tr("&All goods"),
-                 QStringLiteral("Ctrl+Shift+A"), [this] { copyGoods(/*onlyChosen=*/false); });
+                 QStringLiteral("Ctrl+Shift+C"), [this] { copying.copyGoods(goods->chosen()); });
+    copyAllAction = addEntry(*menu, QStringLiteral("copyAll"), Words::tr("&All goods"),
+                             QStringLiteral("Ctrl+Shift+A"), [this] { copying.copyAllGoods(); });
     addEntry(*menu, QStringLiteral("howToCopy"), Words::tr("&How to copy goods..."),
-             QStringLiteral("Ctrl+Shift+H"), [this] { askHowToCopy(); });
+             QStringLiteral("Ctrl+Shift+H"), [this] { copying.askHow(this); });
     menu->addSeparator();
     copyOrderAction =
         addEntry(*menu, QStringLiteral("copyOrder"), Words::tr("&Lines of the document"),
-                 QStringLiteral("Ctrl+Shift+L"), [this] { copyOrder(); });
+                 QStringLiteral("Ctrl+Shift+L"),
+                 [this] { copying.copyOrder(orders->current(), withGoodsAction->isChecked()); });
     withGoodsAction = addEntry(*menu, QStringLiteral("withGoods"), Words::tr("Lines with &goods"),
                                QStringLiteral("Ctrl+Shift+G"), [] {});
     withGoodsAction->setCheckable(true);
@@ -193,6 +193,9 @@ void MainWindow::addViewMenu()
                  goods->sortAsInSource();
              });
     menu->addMenu(columns);
+    menu->addSeparator();
+    addEntry(*menu, QStringLiteral("closeMessage"), Words::tr("Close &message"),
+             QStringLiteral("Ctrl+M"), [this] { infoBar->hide(); });
 }
 
 void MainWindow::askForSource()
@@ -208,11 +211,9 @@ void MainWindow::askForSource()
 
 void MainWindow::open(const QString &path)
 {
-    const QFileInfo file(path);
-    if (file.exists() && !file.isFile() && !file.isDir()) {
-        // Reading it might never end.
-        tell(QDir::toNativeSeparators(path) + u'\n' +
-             words::systemWords(QStringLiteral("Not a regular file")));
+    const QString why = whyNotReadable(path);
+    if (!why.isEmpty()) {
+        infoBar->tell(why);
         return;
     }
     infoBar->hide();
@@ -231,34 +232,23 @@ void MainWindow::readAgain()
 void MainWindow::stop()
 {
     if (loader.isLoading())
-        tell(Words::tr("The reading was stopped."));
+        infoBar->tell(Words::tr("The reading was stopped."));
     loader.stop();
-    if (conversion)
-        conversion->stop();
+    saving.stop();
     showProgress();
     showState();
 }
 
-void MainWindow::tell(const QString &text)
-{
-    infoBar->tell(text);
-}
-
-QString MainWindow::withText(const QString &text) const
-{
-    QStringList lines = infoBar->text().split(u'\n', Qt::SkipEmptyParts);
-    lines.removeAll(text);
-    return (lines << text).join(u'\n');
-}
-
 void MainWindow::offerToRead(const QString &text)
 {
-    infoBar->offer(text, Words::tr("&Read again"), [this] { readAgain(); });
+    infoBar->remind(text, Words::tr("&Read again"), [this] { readAgain(); });
 }
 
 void MainWindow::showOpened(Opened opened)
 {
     showProgress();
+    if (opened.reader)
+        infoBar->forgetReminder();
     tellErrors(*opened.source);
     if (!opened.reader) {
         showState();
@@ -286,7 +276,7 @@ void MainWindow::tellErrors(const Source &source)
 {
     const QStringList lines = errorsInWords(source.survey);
     if (!lines.isEmpty())
-        tell(QDir::toNativeSeparators(source.path) + u'\n' + lines.join(u'\n'));
+        infoBar->tell(QDir::toNativeSeparators(source.path) + u'\n' + lines.join(u'\n'));
 }
 
 void MainWindow::showFinding(const survey::Finding &finding)
@@ -299,127 +289,8 @@ void MainWindow::showFinding(const survey::Finding &finding)
         pages->setCurrentWidget(orders);
         orders->goTo(shown.order, shown.line);
     } else {
-        tell(Words::tr("No table shows what this is about.") + u'\n' + inWords(finding));
+        infoBar->tell(Words::tr("No table shows what this is about.") + u'\n' + inWords(finding));
     }
-}
-
-void MainWindow::askWhereToSave()
-{
-    const QString proposed = QFileInfo(desk.source()->path).path() + QLatin1String("/") +
-                             QFileInfo(desk.source()->path).completeBaseName() +
-                             QLatin1String("-findings.csv");
-    const QString path = QFileDialog::getSaveFileName(this, Words::tr("Save findings as a table"),
-                                                      proposed, Words::tr("Tables (*.csv)"));
-    if (!path.isEmpty())
-        saveFindings(path);
-}
-
-void MainWindow::saveFindings(const QString &path)
-{
-    using delivery::Reason;
-    using delivery::Replacement;
-    QSaveFile file(path);
-    const QByteArray csv = findings->toCsv();
-    const bool isSource = delivery::stateOf(path).isSameAs(delivery::stateOf(desk.source()->path));
-    if (!isSource && file.open(QIODevice::WriteOnly) && file.write(csv) == csv.size() &&
-        file.commit()) {
-        tell(Words::tr("The findings are in %1.").arg(QDir::toNativeSeparators(path)));
-        return;
-    }
-    const Reason itself = {Reason::Kind::Hindered, Replacement::Hindrance::IsSource};
-    tell(Words::tr("The findings could not be saved: %1")
-             .arg(isSource ? words::sentence(itself) : words::systemWords(file.errorString())));
-}
-
-void MainWindow::askForDestination()
-{
-    const QFileInfo source(desk.source()->path);
-    const QString last = settings.value(destinationKey).toString();
-    const QString folder = !last.isEmpty() && QDir(last).exists() ? last : source.path();
-    const QString proposed = folder + u'/' + source.completeBaseName() + QLatin1String(".txt");
-    const QString path = QFileDialog::getSaveFileName(this, Words::tr("Convert to"), proposed,
-                                                      Words::tr("Exchange files (*.txt)"));
-    if (!path.isEmpty())
-        convert(path);
-}
-
-void MainWindow::convert(const QString &destination)
-{
-    infoBar->hide();
-    settings.setValue(destinationKey, QFileInfo(destination).absolutePath());
-    delivery::RunOptions options;
-    options.request.purchase = desk.source()->purchase;
-    options.jobs = 1;
-    conversion =
-        std::make_unique<Conversion>(options, delivery::Job{desk.source()->path, destination, {}});
-    connect(conversion.get(), &QThread::finished, this, [this] { endConversion(); });
-    conversion->start();
-    showProgress();
-    showState();
-}
-
-void MainWindow::endConversion()
-{
-    const std::unique_ptr<Conversion> ended = std::move(conversion);
-    if (ended->outcome())
-        tell(outcomeInWords(*ended->outcome()).join(u'\n'));
-    else
-        tell(withText(Words::tr("The conversion was stopped; the destination is as it was.")));
-    showProgress();
-    showState();
-}
-
-void MainWindow::askHowToCopy()
-{
-    CopyDialog dialog(copying, this);
-    if (dialog.exec() == QDialog::Accepted)
-        copying = dialog.options();
-}
-
-void MainWindow::copyGoods(bool onlyChosen)
-{
-    const CopyOptions options = copying;
-    const QVector<int> chosen = onlyChosen ? goods->chosen() : QVector<int>();
-    desk.collect(
-        [options, chosen, onlyChosen](SourceReader &reader) {
-            reader.collectRows(options, onlyChosen ? &chosen : nullptr);
-        },
-        [this](SourceReader &reader) { putOnClipboard(reader); });
-    showState();
-}
-
-void MainWindow::copyOrder()
-{
-    const int order = orders->current();
-    if (order < 0)
-        return;
-    const bool withGoods = withGoodsAction->isChecked();
-    desk.collect(
-        [order, withGoods](SourceReader &reader) { reader.collectOrderRows(order, withGoods); },
-        [this](SourceReader &reader) { putOnClipboard(reader); });
-    showState();
-}
-
-void MainWindow::putOnClipboard(SourceReader &reader)
-{
-    const int count = reader.rowCount();
-    bool isCopied = count > 0;
-    try {
-        if (isCopied)
-            reader.copyRowsToClipboard();
-    } catch (const std::bad_alloc &) {
-        reader.forgetRows();
-        desk.ranOut(/*isReaderLost=*/false);
-        return;
-    }
-    // Elsewhere nobody can keep it open, and not each platform knows whose it is.
-    if (QGuiApplication::platformName() == QLatin1String("windows"))
-        isCopied = isCopied && QGuiApplication::clipboard()->ownsClipboard();
-    tell(isCopied    ? Words::tr("%n line(s) are on the clipboard.", nullptr, count)
-         : count > 0 ? Words::tr("Another program has the clipboard open.")
-                     : Words::tr("There is nothing to copy."));
-    reader.forgetRows();
-    showState();
 }
 
 void MainWindow::showAbout()
@@ -433,13 +304,13 @@ void MainWindow::showAbout()
 
 void MainWindow::showProgress()
 {
-    const bool isBusy = loader.isLoading() || conversion;
+    const bool isBusy = loader.isLoading() || saving.isConverting();
     if (isBusy != progressTimer.isActive())
         isBusy ? progressTimer.start() : progressTimer.stop();
     progress->setVisible(isBusy);
     stopButton->setVisible(isBusy);
     stopAction->setEnabled(isBusy);
-    const double share = loader.isLoading() ? loader.share() : conversion ? conversion->share() : 0;
+    const double share = loader.isLoading() ? loader.share() : saving.share();
     constexpr int whole = 100;
     progress->setRange(0, share < 0 || share >= 1 ? 0 : whole); // without an end, it only moves
     if (progress->maximum() > 0)
@@ -454,7 +325,7 @@ void MainWindow::showState()
     if (isOpen && !loader.isLoading())
         purchaseAction->setChecked(source.purchase); // where it was to be another one, and is not
     // Nobody knows whether its documents are purchases while that may become another one.
-    convertAction->setEnabled(isOpen && !conversion && loader.path() != source.path);
+    convertAction->setEnabled(isOpen && !saving.isConverting() && loader.path() != source.path);
     saveFindingsAction->setEnabled(isOpen);
     copyAllAction->setEnabled(desk.hasReader() && !source.goods.isEmpty());
     copyChosenAction->setEnabled(desk.hasReader() &&
@@ -464,7 +335,7 @@ void MainWindow::showState()
     QStringList parts;
     if (loader.isLoading())
         parts.append(Words::tr("reading %1").arg(QFileInfo(loader.path()).fileName()));
-    if (conversion)
+    if (saving.isConverting())
         parts.append(Words::tr("converting"));
     if (isOpen) {
         parts.append(words::countsInWords(source.survey.counts));
@@ -485,10 +356,7 @@ void MainWindow::saveSettings()
     goods->save(settings);
     orders->save(settings);
     findings->save(settings);
-    settings.setValue(QStringLiteral("copy/prefix"), copying.prefixRows);
-    settings.setValue(QStringLiteral("copy/description"), copying.withDescription);
-    settings.setValue(QStringLiteral("copy/html"), copying.markHtml);
-    settings.setValue(QStringLiteral("copy/extended"), copying.extendedOffers);
+    copying.save(settings);
 }
 
 void MainWindow::restoreSettings()
@@ -500,13 +368,7 @@ void MainWindow::restoreSettings()
     orders->restore(settings);
     findings->restore(settings);
     columns->showColumns();
-    const auto isSet = [this](const char *key, bool usual) {
-        return settings.value(QLatin1String(key), usual).toBool();
-    };
-    copying.prefixRows = isSet("copy/prefix", copying.prefixRows);
-    copying.withDescription = isSet("copy/description", copying.withDescription);
-    copying.markHtml = isSet("copy/html", copying.markHtml);
-    copying.extendedOffers = isSet("copy/extended", copying.extendedOffers);
+    copying.restore(settings);
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)

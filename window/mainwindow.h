@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "window/conversion.h"
+#include "window/copying.h"
 #include "window/desk.h"
 #include "window/loader.h"
+#include "window/saving.h"
 #include "window/sourcewatch.h"
 
 #include <QMainWindow>
@@ -36,11 +37,8 @@ public:
 
     void open(const QString &path);
 
-    /// Tries to put the exchange file of the source there.
-    void convert(const QString &destination);
-
-    /// Tries to put a table of the findings there.
-    void saveFindings(const QString &path);
+    void convert(const QString &destination) { saving.convert(*desk.source(), destination); }
+    void saveFindings(const QString &path) { saving.saveFindings(desk.source(), path); }
 
 protected:
     void closeEvent(QCloseEvent *event) override;
@@ -58,19 +56,9 @@ private:
     void stop();
     void showOpened(Opened opened);
     void tellErrors(const Source &source);
-    void tell(const QString &text);
-    QString withText(const QString &text) const; ///< behind what the bar tells already
     void offerToRead(const QString &text);
 
     void showFinding(const survey::Finding &finding);
-    void askWhereToSave();
-    void askForDestination();
-    void endConversion();
-    void askHowToCopy();
-    void copyGoods(bool onlyChosen);
-    void copyOrder();
-    void putOnClipboard(SourceReader &reader);
-
     void showAbout();
     void showProgress();
     void showState();
@@ -80,8 +68,6 @@ private:
     QSettings &settings;
     Loader loader;
     Desk desk;
-    CopyOptions copying;
-    std::unique_ptr<Conversion> conversion; ///< null where none is going on
     SourceWatch watch;
     QTimer progressTimer;
 
@@ -91,6 +77,8 @@ private:
     OverviewPage *overview;
     QTabWidget *pages;
     InfoBar *infoBar;
+    Copying copying;
+    Saving saving;
     QProgressBar *progress;
     QPushButton *stopButton;
     QLabel *state;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "window/source.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace window
@@ -36,8 +37,10 @@ Shown shownAt(const Source &source, const SourcePosition &position)
 std::optional<double> numberIn(const QString &field)
 {
     bool isNumber = false;
-    QString text = field.section(u';', 0, 0).trimmed();
-    const double number = text.replace(u',', u'.').toDouble(&isNumber);
+    QString text = field.section(u';', 0, 0).replace(u',', u'.');
+    const auto isSpace = [](QChar letter) { return letter.isSpace(); }; // also between digits
+    text.truncate(int(std::remove_if(text.begin(), text.end(), isSpace) - text.begin()));
+    const double number = text.toDouble(&isNumber);
     return isNumber && !std::isnan(number) ? std::optional(number) : std::nullopt;
 }
 

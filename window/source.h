@@ -6,6 +6,7 @@
 #include "export/observer.h"
 #include "survey/filestate.h"
 #include "survey/survey.h"
+#include "window/goodfields.h"
 
 #include <QString>
 #include <QVector>
@@ -15,24 +16,6 @@
 
 namespace window
 {
-
-/// What there is to tell of a good or an offer.
-enum class GoodField {
-    Code,
-    Article,
-    Name,
-    Group, ///< its path
-    Unit,
-    Barcode,
-    Prices,
-    Maker,
-    Country,
-    Weight,
-    Picture, ///< its address
-    Note,    ///< that it is sold out, in words: it has no goods row then
-};
-
-constexpr int goodFieldCount = 12;
 
 struct Good {
     std::array<QString, goodFieldCount> fields;

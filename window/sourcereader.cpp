@@ -25,23 +25,6 @@ namespace
 const QString sumElement = QStringLiteral("Сумма");
 const QString roleElement = QStringLiteral("Роль");
 
-/// The fields of a good by the codes of its row.
-constexpr std::pair<QLatin1String, GoodField> rowFields[] = {
-    {target::article.rowCode, GoodField::Article},
-    {target::name.rowCode, GoodField::Name},
-    {target::group.rowCode, GoodField::Group},
-    {target::unit.rowCode, GoodField::Unit},
-    {target::barcode.rowCode, GoodField::Barcode},
-    {"DC1"_l1, GoodField::Prices},
-    {"DC2"_l1, GoodField::Prices},
-    {"DC3"_l1, GoodField::Prices},
-    {"DC4"_l1, GoodField::Prices},
-    {"DC5"_l1, GoodField::Prices},
-    {"DP12"_l1, GoodField::Maker},
-    {"DP3"_l1, GoodField::Country},
-    {"DP16"_l1, GoodField::Weight},
-};
-
 /// A value as people read it: where the two forms differ, that of the row is nearer to the source.
 QString shown(const FieldValue &value)
 {
@@ -71,10 +54,10 @@ Good goodFrom(const Item &item)
     good.field(GoodField::Code) = item.code;
     good.description = item.text;
     for (const FieldValue &value : item.values) {
-        for (const auto &[rowCode, field] : rowFields) {
-            if (value.target.rowCode != rowCode)
+        for (const GoodFieldInfo &info : goodFields) {
+            if (!info.rowCodes.contains(value.target.rowCode))
                 continue;
-            QString &text = good.field(field);
+            QString &text = good.field(info.field);
             const QString more = shown(value);
             if (text.isEmpty())
                 text = more;
@@ -192,8 +175,7 @@ void SourceReader::addGroups()
             continue;
         known.insert(id);
         const PathIndex::Node *const bottom = index.bottom(groups, id);
-        // Each one in a loop has a path of its own through all of it.
-        if (bottom != nullptr && bottom->flaw != PathIndex::Flaw::Loop)
+        if (bottom != nullptr)
             description->tree.placeOf(*bottom);
     }
 }
@@ -209,6 +191,7 @@ void SourceReader::collectRows(const CopyOptions &options, const QVector<int> *c
                  options.priceFactor.value_or(1.0));
     keepChosenRows();
     chosenGoods = nullptr;
+    countLines();
 }
 
 void SourceReader::collectOrderRows(int order, bool withGoods)
@@ -218,6 +201,14 @@ void SourceReader::collectOrderRows(int order, bool withGoods)
     docs.move(order, 0);
     collectDocumentRows(withGoods);
     docs.move(0, order);
+    countLines();
+}
+
+void SourceReader::countLines()
+{
+    lines = 0;
+    for (const QString &row : std::as_const(goodsRows))
+        lines += 1 + int(row.count(u'\n'));
 }
 
 /// The rows behind those that are kept are of the good that was seen last.

@@ -5,25 +5,16 @@
 #pragma once
 
 #include "reader/commxmlreader.h"
+#include "window/copyoptions.h"
 #include "window/source.h"
 
 #include <QDomDocument>
 
 #include <functional>
 #include <memory>
-#include <optional>
 
 namespace window
 {
-
-/// How goods get onto the clipboard.
-struct CopyOptions {
-    bool prefixRows = false;
-    bool withDescription = true;
-    bool markHtml = true;
-    bool extendedOffers = true;
-    std::optional<double> priceFactor = {};
-};
 
 /// The reader of a source that somebody else has loaded. It is used by one thread at a time.
 class SourceReader : public CommXmlReader, private exporter::Observer
@@ -43,7 +34,8 @@ public:
     /// Fills goodsRows anew with those of an order, by its place in Source::orders.
     void collectOrderRows(int order, bool withGoods);
 
-    int rowCount() const { return int(goodsRows.size()); }
+    /// The lines that goodsRows are on the clipboard.
+    int lineCount() const { return lines; }
     void forgetRows() { goodsRows.clear(); }
 
     void logMessage(const QString & /*text*/) override {}
@@ -65,6 +57,7 @@ private:
     void addGroups();
     void takePicture();
     void keepChosenRows();
+    void countLines();
 
     Description *description = nullptr; ///< what describe() is at
 
@@ -72,6 +65,7 @@ private:
     int goodsSeen = 0;
     int chosenSeen = 0;
     int rowsKept = 0;
+    int lines = 0;
 };
 
 /// A source that is open: what is shown of it, and what more can be read of it.

@@ -44,12 +44,12 @@ void SourceWatch::look()
         return;
     }
     const survey::FileState state{QFileInfo(path)};
-    if (!state.differs(known))
+    if (state.isFile == known.isFile && !state.differs(known))
         return;
     known = state;
     watchFile();
     if (changed)
-        changed(path);
+        changed(path, state.isFile);
 }
 
 } // namespace window

@@ -11,14 +11,14 @@
 namespace window
 {
 
-/// Looks whether the file of a source changes on the disk.
+/// Looks whether the file of a source changes on the disk, or goes.
 class SourceWatch : public QObject
 {
 public:
     SourceWatch();
 
     /// Told once of each change.
-    std::function<void(const QString &path)> changed;
+    std::function<void(const QString &path, bool isThere)> changed;
 
     /// While it says so, there is no look at the file.
     std::function<bool()> waits;

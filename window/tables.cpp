@@ -17,23 +17,14 @@ namespace window
 
 GoodsModel::GoodsModel()
     : TableModel([this] {
-          const auto field = [this](GoodField field) {
-              return [this, field](int row) { return good(row).field(field); };
-          };
-          return QVector<Column>{
-              {QT_TRANSLATE_NOOP("Words", "Code"), field(GoodField::Code), 20},
-              {QT_TRANSLATE_NOOP("Words", "Article"), field(GoodField::Article), 14},
-              {QT_TRANSLATE_NOOP("Words", "Name"), field(GoodField::Name), 40},
-              {QT_TRANSLATE_NOOP("Words", "Group"), field(GoodField::Group), 30},
-              {QT_TRANSLATE_NOOP("Words", "Unit"), field(GoodField::Unit), 8},
-              {QT_TRANSLATE_NOOP("Words", "Barcode"), field(GoodField::Barcode), 20},
-              {QT_TRANSLATE_NOOP("Words", "Prices"), field(GoodField::Prices), 16, true},
-              {QT_TRANSLATE_NOOP("Words", "Maker"), field(GoodField::Maker), 16},
-              {QT_TRANSLATE_NOOP("Words", "Country"), field(GoodField::Country)},
-              {QT_TRANSLATE_NOOP("Words", "Weight"), field(GoodField::Weight), 12, true},
-              {QT_TRANSLATE_NOOP("Words", "Picture"), field(GoodField::Picture), 30},
-              {QT_TRANSLATE_NOOP("Words", "Note"), field(GoodField::Note)},
-          };
+          QVector<Column> columns;
+          for (const GoodFieldInfo &info : goodFields) {
+              const auto text = [this, field = info.field](int row) {
+                  return good(row).field(field);
+              };
+              columns.append({info.heading, text, info.width, info.isNumber});
+          }
+          return columns;
       }())
 {
 }

@@ -6,6 +6,7 @@
 #include "words/outcomes.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 using words::Words;
 
@@ -58,6 +59,16 @@ QStringList errorsInWords(const survey::Survey &survey)
     if (lines.isEmpty() && survey.outOfMemory)
         lines.append(Words::tr("memory ran out"));
     return lines;
+}
+
+QString whyNotReadable(const QString &path)
+{
+    const QFileInfo file(path);
+    if (!file.exists() || file.isFile() || file.isDir())
+        return {};
+    // Reading it might never end.
+    return QDir::toNativeSeparators(path) + u'\n' +
+           words::systemWords(QStringLiteral("Not a regular file"));
 }
 
 QStringList outcomeInWords(const delivery::Outcome &outcome)

@@ -24,6 +24,9 @@ QString inWords(const survey::Finding &finding);
 /// The errors of a source, with their places; what ran out where there are none.
 QStringList errorsInWords(const survey::Survey &survey);
 
+/// Why there is no use in reading a file, with its path; empty where there may be.
+QString whyNotReadable(const QString &path);
+
 /// What came of a conversion, in lines.
 QStringList outcomeInWords(const delivery::Outcome &outcome);
 

@@ -797,7 +797,7 @@
     </message>
     <message>
         <source>Descriptions are &amp;HTML</source>
-        <translation>Описания в &amp;HTML</translation>
+        <translation>Описания &amp;в HTML</translation>
     </message>
     <message>
         <source>&amp;Extended offers of shop feeds</source>
@@ -860,10 +860,6 @@
         <translation>Группа</translation>
     </message>
     <message>
-        <source>Close message</source>
-        <translation>Закрыть сообщение</translation>
-    </message>
-    <message>
         <source>Stop</source>
         <translation>Остановить</translation>
     </message>
@@ -901,7 +897,7 @@
     </message>
     <message>
         <source>Documents are &amp;purchases</source>
-        <translation>Документы — &amp;закупки</translation>
+        <translation>Документы — за&amp;купки</translation>
     </message>
     <message>
         <source>&amp;Convert...</source>
@@ -933,7 +929,7 @@
     </message>
     <message>
         <source>&amp;Lines of the document</source>
-        <translation>С&amp;троки документа</translation>
+        <translation>Строки &amp;документа</translation>
     </message>
     <message>
         <source>Lines with &amp;goods</source>
@@ -1534,6 +1530,14 @@ Its licence is MIT. It is made with Qt %2, whose licence is the LGPL, version 3.
         <translation>xml2ryk %1 показывает, проверяет и преобразует торговые данные.
 
 Лицензия программы — MIT. Она сделана с Qt %2, лицензия которого — LGPL версии 3.</translation>
+    </message>
+    <message>
+        <source>Close &amp;message</source>
+        <translation>Закрыть соо&amp;бщение</translation>
+    </message>
+    <message>
+        <source>%1 is no longer on the disk.</source>
+        <translation>%1: файла больше нет на диске.</translation>
     </message>
 </context>
 </TS>

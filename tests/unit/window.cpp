@@ -7,15 +7,19 @@
 #include "window/infobar.h"
 #include "window/mainwindow.h"
 #include "window/textview.h"
+#include "words/language.h"
 
 #include <QAction>
 #include <QApplication>
+#include <QCheckBox>
+#include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QPushButton>
 #include <QSettings>
 #include <QTabWidget>
 #include <QTableView>
@@ -278,6 +282,78 @@ private slots:
         QVERIFY(pasted().startsWith("777\t"));
     }
 
+    void copyOptions_data()
+    {
+        QTest::addColumn<QString>("mnemonic");
+        QTest::addColumn<QString>("factor");
+        QTest::addColumn<QString>("rows");
+        const QString usual = "a\tDP8\tn\tDC1\t10.5\tDP10\tшт\tDISHTML\t1\n-----\nx\ny\n-----\n";
+        const auto add = [](const char *mnemonic, const char *factor, const QString &rows) {
+            QTest::newRow(qPrintable(QString("%1 %2").arg(mnemonic, factor)))
+                << QString(mnemonic) << QString(factor) << rows;
+        };
+        const auto with = [&](const QString &before, const QString &after) {
+            return QString(usual).replace(before, after);
+        };
+        add("", "", usual);
+        add("#", "", "##\t" + usual);
+        add("d", "", usual.section("\tDISHTML", 0, 0) + "\n");
+        add("H", "", with("DISHTML\t1", "DISHTML\t0"));
+        add("E", "", with("\tDP10\tшт", ""));
+        add("M", "2.5", with("10.5", "26.25"));
+        add("M", "2,5", with("10.5", "26.25"));
+    }
+
+    void copyOptions()
+    {
+        QFETCH(QString, mnemonic);
+        QFETCH(QString, factor);
+        const Fixture fixture;
+        QVERIFY(fixture.opens(fixture.write(
+            "s.xml", "<yml_catalog><offers><offer id='a'><name>n</name><price>10.5</price>"
+                     "<description>x\ny</description></offer></offers></yml_catalog>")));
+        const auto answer = [&](const std::function<void(QDialog *)> &give) {
+            QTimer whenOpen;
+            whenOpen.setSingleShot(true);
+            connect(&whenOpen, &QTimer::timeout, fixture.window.get(), [&] {
+                auto *const dialog = fixture.window->findChild<QDialog *>();
+                give(dialog);
+                dialog->accept();
+            });
+            whenOpen.start(0);
+            fixture.trigger("howToCopy");
+        };
+        answer([&](const QDialog *dialog) {
+            for (QCheckBox *const box : dialog->findChildren<QCheckBox *>()) {
+                if (!mnemonic.isEmpty() && box->text().contains("&" + mnemonic))
+                    box->toggle();
+            }
+            const QString none = "0";
+            auto *const field = dialog->findChild<QLineEdit *>();
+            const QPushButton *const ok =
+                dialog->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok);
+            field->setText(none);
+            QCOMPARE(ok->isEnabled(), factor.isEmpty());
+            field->setText(factor);
+            QVERIFY(ok->isEnabled());
+        });
+        fixture.trigger("copyAll");
+        QTRY_VERIFY_WITH_TIMEOUT(fixture.message().contains("clipboard"), patience);
+        QTEST(pasted(), "rows");
+        QCOMPARE(fixture.message().section(" ", 0, 0).toInt(), pasted().count('\n'));
+
+        // Switches stay, a factor does not.
+        fixture.window->close();
+        const Fixture next((fixture.settings->sync(), bytesOf(fixture.settings->fileName())));
+        QVERIFY(next.opens(fixture.folder.filePath("s.xml")));
+        next.trigger("copyAll");
+        QTRY_VERIFY_WITH_TIMEOUT(next.message().contains("clipboard"), patience);
+        if (factor.isEmpty())
+            QTEST(pasted(), "rows");
+        else
+            QVERIFY(pasted().contains("10.5"));
+    }
+
     void orders()
     {
         const Fixture fixture;
@@ -383,14 +459,17 @@ private slots:
         fixture.table("Kinds of findings")->selectRow(1);
         QCOMPARE(fixture.rowCount("Findings"), 1);
         QVERIFY(count > 1);
+        const auto saves = [&](const QString &path, const QString &message) {
+            fixture.window->saveFindings(path);
+            return QTest::qWaitFor([&] { return fixture.message().contains(message); }, patience);
+        };
         const QString path = fixture.folder.filePath("findings.csv");
-        fixture.window->saveFindings(path);
-        QVERIFY(fixture.message().contains(QDir::toNativeSeparators(path)));
+        QVERIFY(saves(path, QDir::toNativeSeparators(path)));
         QCOMPARE(bytesOf(path).count("\r\n"), 1 + count);
-        fixture.window->saveFindings(fixture.folder.filePath("no/findings.csv"));
-        QVERIFY(fixture.message().contains("could not be saved: "));
-        fixture.window->saveFindings(fixture.folder.filePath("./s.xml"));
-        QVERIFY(fixture.message().contains("the destination is the source itself"));
+        QVERIFY(
+            saves(fixture.folder.filePath("no/findings.csv"), "could not be saved: there is no"));
+        QVERIFY(saves(fixture.folder.path(), "could not be saved: it is a folder"));
+        QVERIFY(saves(fixture.folder.filePath("./s.xml"), "the destination is the source itself"));
         QVERIFY(bytesOf(fixture.folder.filePath("s.xml")).startsWith("<r>"));
     }
 
@@ -448,10 +527,17 @@ private slots:
         QVERIFY(fixture.opens(source));
         QTRY_COMPARE_WITH_TIMEOUT(fixture.rowCount("Goods"), 1, patience);
         QVERIFY(QFile::remove(source)); // as programs do that replace a file
-        QTest::qWait(700);
+        const QString gone = QDir::toNativeSeparators(source) + " is no longer on the disk.";
+        QTRY_COMPARE_WITH_TIMEOUT(fixture.message(), gone, patience);
         fixture.write("s.xml", largeSource(2));
         const QString change = QDir::toNativeSeparators(source) + " has changed on the disk.";
         QTRY_COMPARE_WITH_TIMEOUT(fixture.message(), change, patience);
+        // It is not lost behind what comes later.
+        fixture.trigger("copyAll");
+        QTRY_COMPARE_WITH_TIMEOUT(fixture.message(), "1 line is on the clipboard.\n" + change,
+                                  patience);
+        fixture.trigger("closeMessage");
+        QCOMPARE(fixture.message(), QString());
         fixture.trigger("readAgain");
         QTRY_COMPARE_WITH_TIMEOUT(fixture.rowCount("Goods"), 2, patience);
         QCOMPARE(fixture.message(), QString());
@@ -466,6 +552,8 @@ private slots:
         fixture.write("s.xml", largeSource(3));
         QTRY_COMPARE_WITH_TIMEOUT(fixture.message(), change, patience);
         noise.stop();
+        fixture.trigger("readAgain");
+        QTRY_COMPARE_WITH_TIMEOUT(fixture.rowCount("Goods"), 3, patience);
 
         // As another source is read.
         walksWait = true;
@@ -512,6 +600,36 @@ private slots:
         first.settings->sync();
         const Fixture next(bytesOf(first.settings->fileName()));
         QCOMPARE(dialogFolder(next, "open"), examples);
+    }
+
+    /// What is asked for is of the source that was there when the question was put.
+    void askedBefore()
+    {
+        const Fixture fixture;
+        QVERIFY(fixture.opens(fixture.write("a.xml", bothRoles)));
+        for (const char *const action : {"convert", "saveFindings"}) {
+            walksWait = true;
+            fixture.window->open(fixture.write("b.xml", largeSource(2)));
+            QString proposed;
+            QTimer whenOpen;
+            connect(&whenOpen, &QTimer::timeout, fixture.window.get(), [&] {
+                walksWait = false;
+                auto *const dialog = fixture.window->findChild<QFileDialog *>();
+                if (dialog == nullptr || !fixture.window->windowTitle().startsWith("b.xml "))
+                    return;
+                proposed = dialog->selectedFiles().value(0);
+                static_cast<QDialog *>(dialog)->accept();
+                whenOpen.stop();
+            });
+            whenOpen.start(10);
+            fixture.trigger(action);
+            QVERIFY(QFileInfo(proposed).fileName().startsWith("a"));
+            QTRY_VERIFY_WITH_TIMEOUT(bytesOf(proposed).size() > 5, patience);
+            QTRY_VERIFY_WITH_TIMEOUT(fixture.action("convert")->isEnabled(), patience);
+            QVERIFY(fixture.opens(fixture.folder.filePath("a.xml")));
+        }
+        QVERIFY(bytesOf(fixture.folder.filePath("a.txt")).contains("code:a\n"));
+        QVERIFY(!bytesOf(fixture.folder.filePath("a-findings.csv")).contains("товар"));
     }
 
     void settings_data()
@@ -793,16 +911,16 @@ private slots:
         for (int i = 0; i < 20; ++i)
             fixture.trigger("hideColumn");
         QCOMPARE(shown(), QString("Note")); // the last one stays
-        fixture.trigger("column12");
+        fixture.trigger(qPrintable(QString("column%1").arg(table->model()->columnCount())));
         QCOMPARE(shown(), QString("Note"));
         fixture.press(Qt::Key_F7, Qt::ShiftModifier);
         QCOMPARE(shown(), QString("Name Code Article"));
     }
 
-    static QVector<const QAction *> actionsOf(const QList<QAction *> &entries)
+    static QVector<QAction *> actionsOf(const QList<QAction *> &entries)
     {
-        QVector<const QAction *> actions;
-        for (const QAction *const entry : entries) {
+        QVector<QAction *> actions;
+        for (QAction *const entry : entries) {
             if (entry->menu() != nullptr)
                 actions << actionsOf(entry->menu()->actions());
             else if (!entry->isSeparator())
@@ -811,9 +929,18 @@ private slots:
         return actions;
     }
 
+    void keys_data()
+    {
+        QTest::addColumn<int>("language");
+        QTest::newRow("English") << int(words::Language::English);
+        QTest::newRow("Russian") << int(words::Language::Russian);
+    }
+
     /// The keyboard alone is enough.
     void keys()
     {
+        QFETCH(int, language);
+        const words::Speaking speaking{words::Language(language)};
         const Fixture fixture;
         QVector<QKeySequence> taken;
         for (const QAction *const action : actionsOf(fixture.window->menuBar()->actions())) {
@@ -822,6 +949,39 @@ private slots:
             taken << action->shortcut();
         }
         QVERIFY(taken.size() > 40);
+
+        for (const QMenu *const menu : fixture.window->findChildren<QMenu *>()) {
+            QVector<QKeySequence> mnemonics;
+            for (const QAction *const action : menu->actions()) {
+                const QKeySequence mnemonic = QKeySequence::mnemonic(action->text());
+                QVERIFY2(mnemonic.isEmpty() || !mnemonics.contains(mnemonic),
+                         qPrintable(action->text()));
+                mnemonics << mnemonic;
+            }
+        }
+    }
+
+    /// Some mean something in a field for text, too.
+    void keysInFilter()
+    {
+        const Fixture fixture;
+        fixture.trigger("filter");
+        auto *const filter = fixture.window->findChild<QLineEdit *>();
+        fixture.window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(fixture.window.get()));
+        for (QAction *const action : actionsOf(fixture.window->menuBar()->actions())) {
+            if (!action->isVisible())
+                continue;
+            action->disconnect();
+            action->setEnabled(true);
+            bool isTriggered = false;
+            connect(action, &QAction::triggered, this, [&] { isTriggered = true; });
+            QTest::keySequence(filter, action->shortcut());
+            QVERIFY2(isTriggered, qPrintable(action->text()));
+        }
+        QTest::keyClicks(filter, "a");
+        QTest::keyClick(filter, Qt::Key_A, Qt::ControlModifier);
+        QCOMPARE(filter->selectedText(), QString("a"));
     }
 };
 
