@@ -38,14 +38,16 @@ CopyDialog::CopyDialog(const CopyOptions &options, QWidget *parent)
     connect(priceFactor, &QLineEdit::textChanged, this, check);
     check();
 
-    auto *const layout = new QVBoxLayout(this);
-    for (std::size_t i = 0; i < switches.size(); ++i) {
-        switches[i] = new QCheckBox(Words::tr(copySwitches[i].text));
-        switches[i]->setChecked(options.*copySwitches[i].option);
-        layout->addWidget(switches[i]);
+    auto *const layout = new QVBoxLayout;
+    for (const CopySwitch &one : copySwitches) {
+        auto *const box = new QCheckBox(Words::tr(one.text));
+        box->setChecked(options.*one.option);
+        layout->addWidget(box);
+        switches.append(box);
     }
     for (QWidget *const field : std::initializer_list<QWidget *>{applyFactor, priceFactor, buttons})
         layout->addWidget(field);
+    setLayout(layout);
 }
 
 std::optional<double> CopyDialog::factor() const
@@ -59,8 +61,8 @@ std::optional<double> CopyDialog::factor() const
 CopyOptions CopyDialog::options() const
 {
     CopyOptions chosen;
-    for (std::size_t i = 0; i < switches.size(); ++i)
-        chosen.*copySwitches[i].option = switches[i]->isChecked();
+    for (int i = 0; i < switches.size(); ++i)
+        chosen.*copySwitches[std::size_t(i)].option = switches.at(i)->isChecked();
     if (applyFactor->isChecked())
         chosen.priceFactor = factor();
     return chosen;

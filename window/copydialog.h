@@ -4,8 +4,7 @@
 #include "window/copyoptions.h"
 
 #include <QDialog>
-
-#include <array>
+#include <QVector>
 
 class QCheckBox;
 class QLineEdit;
@@ -25,7 +24,7 @@ private:
     /// Nothing where what is written is none.
     std::optional<double> factor() const;
 
-    std::array<QCheckBox *, copySwitches.size()> switches;
+    QVector<QCheckBox *> switches; ///< in the order of copySwitches
     QCheckBox *applyFactor;
     QLineEdit *priceFactor;
 };
