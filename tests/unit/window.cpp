@@ -629,7 +629,10 @@ private slots:
             QVERIFY(fixture.opens(fixture.folder.filePath("a.xml")));
         }
         QVERIFY(bytesOf(fixture.folder.filePath("a.txt")).contains("code:a\n"));
-        QVERIFY(!bytesOf(fixture.folder.filePath("a-findings.csv")).contains("товар"));
+        const QString findings = fixture.folder.filePath("again.csv");
+        fixture.window->saveFindings(findings);
+        QTRY_VERIFY_WITH_TIMEOUT(fixture.message().contains("again.csv"), patience);
+        QCOMPARE(bytesOf(fixture.folder.filePath("a-findings.csv")), bytesOf(findings));
     }
 
     void settings_data()

@@ -222,6 +222,9 @@ private slots:
             << priced << "" << -1 << int(GoodField::Prices) << 1 << "п2 п т1 т2 т3 т4";
         QTest::newRow("by number")
             << priced << "" << -1 << int(GoodField::Prices) << 0 << "п п2 т1 т2 т3 т4";
+        QTest::newRow("by number with blanks")
+            << QString(feed).replace("<priceR>7<", "<priceR>1 000,5<") << "" << -1
+            << int(GoodField::Prices) << 1 << "b a a";
         const QString names = QString(feed).replace("'a'><name>Блюдце", "'c'><name>Блюдце");
         QTest::newRow("words of a note") << names << "SOLD" << -1 << -1 << 0 << "c";
         QTest::newRow("by note") << names << "" << -1 << int(GoodField::Note) << 1 << "c a b";
