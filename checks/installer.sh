@@ -240,13 +240,18 @@ registry | diff "$work/before" - || fail "entries are left, or those of others a
 if [ -e "$installed" ] || [ -e "$menu" ]; then fail "files are left"; fi
 
 say "giving up halfway"
-install_older halfway
-echo mine >halfway/README.ru.html
-hold 'C:\halfway\README.ru.html'
+# A PATH can't name a folder with a semicolon, but has what looks like it.
+halfway="half;way"
+install_older "$halfway"
+path_is "$path"
+set_path "$path;C:\\$halfway"
+echo mine >"$halfway/README.ru.html"
+hold "C:\\$halfway\\README.ru.html"
 install 3
 release
-[ "$(find halfway -type f) $(<halfway/README.ru.html)" = "halfway/README.ru.html mine" ] ||
+[ "$(find "$halfway" -type f) $(<"$halfway/README.ru.html")" = "$halfway/README.ru.html mine" ] ||
     fail "not just the user's file is left of an installation that failed"
+path_is "$path;C:\\$halfway"
 registry >"$work/after"
 ! grep xml2ryk "$work/after" || fail "entries are left of an installation that failed"
 

@@ -96,9 +96,13 @@ VIProductVersion "${VERSION}.0"
 !macro PathFunctions un
     ; Of the folder $0. Into $R0 the type of the value, into $R1 its text between two semicolons, with
     ; room for the folder, into $R2 where the folder stands there between its semicolons, or 0. Where
-    ; the value is none of text, $R2 is empty.
+    ; the value is none of text, or the folder has a semicolon itself, $R2 is empty.
     Function ${un}readPath
         StrCpy $R2 ""
+        System::Call 'shlwapi::StrStrW(w r0, w ";") p.R4'
+        ${If} $R4 <> 0
+            Return
+        ${EndIf}
         System::Call 'advapi32::RegGetValueW(${OF_PATH}, i ${STRINGS_UNEXPANDED}, *i .R0, p 0, *i 0R3) i.R4'
         ${If} $R4 = ${ERROR_FILE_NOT_FOUND}
             StrCpy $R0 ${REG_EXPAND_SZ}
@@ -113,7 +117,11 @@ VIProductVersion "${VERSION}.0"
         System::Call 'kernel32::lstrcpyW(p R1, w ";")'
         ${If} $R3 > 2
             IntPtrOp $R2 $R1 + 2
-            System::Call 'advapi32::RegGetValueW(${OF_PATH}, i ${STRINGS_UNEXPANDED}, p 0, p R2, *i R3)'
+            System::Call 'advapi32::RegGetValueW(${OF_PATH}, i ${STRINGS_UNEXPANDED}, p 0, p R2, *i R3) i.R4'
+            ${If} $R4 <> 0 ; others have changed it meanwhile
+                StrCpy $R2 ""
+                Return
+            ${EndIf}
             System::Call 'kernel32::lstrcatW(p R1, w ";")'
         ${EndIf}
         StrCpy $R3 ";$0;"
