@@ -226,11 +226,15 @@ install 3
 mv xml2ryk-uninstall.exe "$installed"
 holds "$installed"
 # What is new can't be put aside.
+aside=xml2ryk-setup.tmp
 for file in README.html xml2ryk-uninstall.exe; do
-    mkdir -p "$installed/setup.tmp/$file/full"
+    mkdir -p "$installed/$aside/$file"
+    echo >"$installed/$aside/$file/held"
+    hold "$installed_at\\$aside\\$file\\held"
     install 2
-    rm -r "$installed/setup.tmp/$file"
-    rmdir "$installed/setup.tmp" || fail "there are remains of an installation that failed"
+    release
+    rm -r "${installed:?}/$aside/$file"
+    rmdir "$installed/$aside" || fail "there are remains of an installation that failed"
     holds "$installed"
 done
 

@@ -23,7 +23,7 @@ AllowSkipFiles off
 !define CLASSES "Software\Classes"
 !define APPLICATION "${CLASSES}\Applications\${PROGRAM}"
 !define PROGID "xml2ryk.source"
-!define ASIDE "$INSTDIR\setup.tmp"
+!define ASIDE "$INSTDIR\xml2ryk-setup.tmp" ; removed with all that is in it, so of a name that is ours
 !define MENU "$SMPROGRAMS\xml2ryk"
 !define DOCUMENTS_EN "xml2ryk documents.lnk"
 !define DOCUMENTS_RU "Документы xml2ryk.lnk"
@@ -184,12 +184,6 @@ VIProductVersion "${VERSION}.0"
         Delete "$INSTDIR\${file}"
     ${EndIf}
 !macroend
-!macro RemoveAside file
-    Delete "${ASIDE}\${file}"
-!macroend
-!macro RemoveFolderAside folder
-    RMDir "${ASIDE}\${folder}"
-!macroend
 !macro FindForeign file
     ${If} ${FileExists} "$INSTDIR\${file}"
         StrCpy $0 "${file}"
@@ -305,21 +299,15 @@ Function place
     Abort
 FunctionEnd
 
-Function removeAside
-    !insertmacro EachFile RemoveAside
-    !insertmacro RemoveAside "${UNINSTALLER}"
-    !insertmacro EachFolder RemoveFolderAside
-    RMDir "${ASIDE}"
-FunctionEnd
-
 Function .onInstFailed
-    Call removeAside
+    RMDir /r "${ASIDE}"
     RMDir "$INSTDIR"
 FunctionEnd
 
 Section $(programs) programs
     SectionIn RO
     Call refuseFilesOfOthers
+    RMDir /r "${ASIDE}"
     CreateDirectory "${ASIDE}"
     !insertmacro EachFolder MakeAside
     !insertmacro EachFile Extract
@@ -349,7 +337,7 @@ Section $(programs) programs
     !insertmacro Place "${UNINSTALLER}"
     !insertmacro EachFolder Make
     !insertmacro EachFile Place
-    Call removeAside
+    RMDir /r "${ASIDE}"
 
     SetOutPath $DOCUMENTS ; where the window begins
     CreateDirectory "${MENU}"
