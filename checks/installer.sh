@@ -114,6 +114,9 @@ holds() {
     diff -r "$folder" "$work/held" || fail "$at is not what the zip holds"
 }
 
+# kept FOLDER: names in "kept" what was renamed there.
+kept() { mapfile -t kept < <(cd "$1" && find . -name '*.old*' -printf '%P\n'); }
+
 # registry: what is there of the user, a value a line.
 registry() {
     in_windows 0 reg export HKCU 'C:\user.reg' /y
@@ -243,7 +246,7 @@ remove
 registry | diff "$work/before" - || fail "entries are left, or those of others are not"
 if [ -e "$installed" ] || [ -e "$menu" ]; then fail "files are left"; fi
 
-say "giving up halfway"
+say "giving up halfway, and being killed there"
 # A PATH can't name a folder with a semicolon, but has what looks like it.
 halfway="half;way"
 install_older "$halfway"
@@ -252,12 +255,28 @@ set_path "$path;C:\\$halfway"
 echo mine >"$halfway/README.ru.html"
 hold "C:\\$halfway\\README.ru.html"
 install 3
-release
 [ "$(find "$halfway" -type f) $(<"$halfway/README.ru.html")" = "$halfway/README.ru.html mine" ] ||
     fail "not just the user's file is left of an installation that failed"
 path_is "$path;C:\\$halfway"
 registry >"$work/after"
 ! grep xml2ryk "$work/after" || fail "entries are left of an installation that failed"
+install_older "$halfway"
+"$run" 'C:\xml2ryk-setup.exe' /S </dev/null >/dev/null 2>&1 &
+killed=$!
+until [ -e "$halfway/index.html" ]; do
+    kill -0 "$killed" || fail "the installation ends before it is killed"
+    sleep 0.1
+done
+kill "$killed"
+wait "$killed" || true
+release
+[ -e "$halfway/$aside/README.ru.html" ] || fail "the installation is killed too late"
+echo larger >"$halfway/$aside/of a larger version"
+install 0
+kept "$halfway"
+holds "$halfway" "${kept[@]}"
+[[ " ${kept[*]} " == *" xml2ryk.exe.old "* && $(<"$halfway/README.ru.html.old") = mine ]] ||
+    fail "something was removed, though it may not have been of the installation that was killed"
 
 say "installing over an older version"
 other="Мои программы/xml2ryk 2"
@@ -286,13 +305,33 @@ install 0 elsewhere
 holds elsewhere
 find "$other" -type f -printf '%P\n' | sort | diff - <(printf '%s\n' "${own[@]}" | sort) ||
     fail "not just the user's files are left in the older folder"
-mkdir others
+# What lies beside a copy of the uninstaller is not its own, and what has its name may be any program.
+mkdir others planted
 echo mine >others/README.html
+cp elsewhere/xml2ryk-uninstall.exe others
+cp hold.exe planted/xml2ryk-uninstall.exe
+cp -r others planted "$work"
+registry >"$work/installed"
+in_windows 2 'C:\others\xml2ryk-uninstall.exe' /S '_?=C:\others'
+rm {.,"$work"}/others/xml2ryk-uninstall.exe
 install 2 others
-[ "$(ls others) $(cat others/README.html)" = "README.html mine" ] || fail "the folder of others is not as it was"
-rm elsewhere/{xml2ryk-uninstall.exe,README.html}
+install 2 planted
+for folder_of_others in others planted; do
+    diff -r "$work/$folder_of_others" "$folder_of_others" || fail "a folder of others is not as it was"
+done
+registry | diff "$work/installed" - || fail "the entries are not as they were"
+# Where the uninstaller is lost, so is who knows whose files are there, and nothing is removed.
+rm -r elsewhere
+mkdir -p elsewhere/docs
+echo mine | tee elsewhere/{README,docs/host}.html >"$work/mine"
 install 0
-holds elsewhere
+holds elsewhere {README,docs/host}.html.old
+cat elsewhere/{README,docs/host}.html.old | diff <(cat "$work"/mine{,}) - || fail "the user's files are not what they were"
+: >elsewhere/xml2ryk-uninstall.exe
+install 0 ELSEWHERE
+kept elsewhere
+holds elsewhere "${kept[@]}"
+((${#kept[@]} == $(find "$folder" -type f | wc -l) + 3)) || fail "something was removed, though the uninstaller is damaged"
 set_path "$path;C:\\elsewhere"
 rm elsewhere/xml2ryk-uninstall.exe
 install 0 another

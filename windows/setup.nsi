@@ -1,6 +1,9 @@
 ; The installer for Windows, for one user and without administrator rights. windows/make-setup compiles
 ; it with VERSION, SETUP (what to make), FOLDER (what to install), and LIST: EachFile and EachFolder.
 ;
+; The entry of the user alone tells which folder is that of the installed xml2ryk: nobody else can write
+; it, while the files of a folder may be anybody's, an uninstaller too.
+;
 ; What goes wrong mostly leaves an older installation whole: the new files are put aside first, then the
 ; older uninstaller removes its own files, or refuses where one is in use, and then the new ones are moved
 ; to their place, all or none. Ends with 0, with 2 where nothing has changed, or with 3 where what was
@@ -69,6 +72,9 @@ InstallDirRegKey HKCU "${ENTRY}" InstallLocation
 !insertmacro Text foreign \
     "This folder has a file $0 that is not of an installed xml2ryk. Choose another folder." \
     "В этой папке есть файл $0, который не относится к установленному xml2ryk. Выберите другую папку."
+!insertmacro Text notInstalled \
+    "xml2ryk is not installed in $INSTDIR. What is installed is removed in $\"Apps$\" of the settings of Windows." \
+    "В папке $INSTDIR программа xml2ryk не установлена. Установленную удаляют в разделе «Приложения» параметров Windows."
 !insertmacro Text inUse \
     "A file in $0 is in use. Close xml2ryk, the command prompts that it runs in, and its documents." \
     "Файл в папке $0 занят. Закройте xml2ryk, окна командной строки, в которых он работает, и его документы."
@@ -224,11 +230,11 @@ VIProductVersion "${VERSION}.0"
 
 Var older ; the folder of an older installation
 
-; Nobody's file is to be overwritten, nor removed at the end.
+; Nobody's file is to be overwritten, nor removed at the end, nor run.
 Function refuseFilesOfOthers
     StrCpy $0 ""
     ${If} $INSTDIR != $older
-    ${AndIfNot} ${FileExists} "$INSTDIR\${UNINSTALLER}"
+        !insertmacro FindForeign "${UNINSTALLER}"
         !insertmacro EachFile FindForeign
     ${EndIf}
     ${If} $0 != ""
@@ -237,36 +243,37 @@ Function refuseFilesOfOthers
     ${EndIf}
 FunctionEnd
 
-; The installation in the folder $0, if there is one.
+; The installation in the folder $older. Where its uninstaller is lost, or damaged, nobody knows whose
+; files are there now: they stay.
 Function removeOlder
-    ${While} ${FileExists} "$0\${UNINSTALLER}"
-        ClearErrors
-        ExecWait '"$0\${UNINSTALLER}" /S _?=$0' $1
-        ${If} ${Errors}
-            StrCpy $1 ${EXIT_UNCHANGED}
+    StrCpy $0 $older
+    again:
+    ClearErrors
+    ExecWait '"$0\${UNINSTALLER}" /S _?=$0' $1
+    ${If} ${Errors}
+        SetErrorLevel ${EXIT_HALFWAY}
+        Call removeFromPath
+        Return
+    ${EndIf}
+    ${If} $1 <> ${EXIT_UNCHANGED}
+        SetErrorLevel ${EXIT_HALFWAY}
+    ${EndIf}
+    ${If} $1 <> 0
+        MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION $(inUse) /SD IDCANCEL IDRETRY again
+        Abort
+    ${EndIf}
+    ; It may still be looked at by a virus scanner.
+    ${For} $1 1 20
+        Delete "$0\${UNINSTALLER}"
+        ${IfNot} ${FileExists} "$0\${UNINSTALLER}"
+            ${Break}
         ${EndIf}
-        ${If} $1 <> ${EXIT_UNCHANGED}
-            SetErrorLevel ${EXIT_HALFWAY}
-        ${EndIf}
-        ${If} $1 <> 0
-            MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION $(inUse) /SD IDCANCEL IDRETRY next
-            Abort
-        ${EndIf}
-        ; It may still be looked at by a virus scanner.
-        ${For} $1 1 20
-            Delete "$0\${UNINSTALLER}"
-            ${IfNot} ${FileExists} "$0\${UNINSTALLER}"
-                ${Break}
-            ${EndIf}
-            Sleep 250
-        ${Next}
-        RMDir "$0"
-        ${Break}
-        next:
-    ${EndWhile}
+        Sleep 250
+    ${Next}
+    RMDir "$0"
 FunctionEnd
 
-; Renames what stands in the place of the new file $0: what an older installation had there is gone.
+; Renames what stands in the place of the new file $0, which may be the user's.
 Function keepFileOfUser
     StrCpy $2 "$0.old"
     StrCpy $3 1
@@ -292,10 +299,9 @@ Function place
         Sleep 250
     ${Next}
     MessageBox MB_RETRYCANCEL|MB_ICONSTOP $(notPlaced) /SD IDCANCEL IDRETRY again
-    ; An uninstaller that stays would remove the user's files that could not be renamed, too.
-    !insertmacro RemovePlaced "${UNINSTALLER}"
     !insertmacro EachFile RemovePlaced
     !insertmacro EachFolder RemoveFolder
+    DeleteRegKey HKCU "${ENTRY}"
     Abort
 FunctionEnd
 
@@ -320,23 +326,25 @@ Section $(programs) programs
     ${EndIf}
 
     ${If} $older != ""
-        StrCpy $0 $older
-        ${If} ${FileExists} "$older\${UNINSTALLER}"
-            Call removeOlder
-        ${Else}
-            SetErrorLevel ${EXIT_HALFWAY}
-            Call removeFromPath
-            ${If} $older == $INSTDIR
-                !insertmacro EachFile Remove
-            ${EndIf}
-        ${EndIf}
+        Call removeOlder
     ${EndIf}
-    StrCpy $0 $INSTDIR
-    Call removeOlder
 
-    !insertmacro Place "${UNINSTALLER}"
+    ; Ahead of the files: where this is killed between them, the next one need not refuse the folder.
+    WriteRegStr HKCU "${ENTRY}" DisplayName xml2ryk
+    WriteRegStr HKCU "${ENTRY}" DisplayVersion "${VERSION}"
+    WriteRegStr HKCU "${ENTRY}" Publisher "the xml2ryk authors"
+    WriteRegStr HKCU "${ENTRY}" DisplayIcon "$INSTDIR\${PROGRAM}"
+    WriteRegStr HKCU "${ENTRY}" InstallLocation $INSTDIR
+    WriteRegStr HKCU "${ENTRY}" UninstallString '"$INSTDIR\${UNINSTALLER}"'
+    WriteRegStr HKCU "${ENTRY}" QuietUninstallString '"$INSTDIR\${UNINSTALLER}" /S'
+    SectionGetSize ${programs} $0
+    WriteRegDWORD HKCU "${ENTRY}" EstimatedSize $0
+    WriteRegDWORD HKCU "${ENTRY}" NoModify 1
+    WriteRegDWORD HKCU "${ENTRY}" NoRepair 1
+
     !insertmacro EachFolder Make
     !insertmacro EachFile Place
+    !insertmacro Place "${UNINSTALLER}" ; last, since it takes all of these names for its own
     RMDir /r "${ASIDE}"
 
     SetOutPath $DOCUMENTS ; where the window begins
@@ -350,18 +358,6 @@ Section $(programs) programs
     !insertmacro WriteClass "${CLASSES}\${PROGID}"
     !insertmacro EachType WriteType
     !insertmacro TellShell
-
-    WriteRegStr HKCU "${ENTRY}" DisplayName xml2ryk
-    WriteRegStr HKCU "${ENTRY}" DisplayVersion "${VERSION}"
-    WriteRegStr HKCU "${ENTRY}" Publisher "the xml2ryk authors"
-    WriteRegStr HKCU "${ENTRY}" DisplayIcon "$INSTDIR\${PROGRAM}"
-    WriteRegStr HKCU "${ENTRY}" InstallLocation $INSTDIR
-    WriteRegStr HKCU "${ENTRY}" UninstallString '"$INSTDIR\${UNINSTALLER}"'
-    WriteRegStr HKCU "${ENTRY}" QuietUninstallString '"$INSTDIR\${UNINSTALLER}" /S'
-    SectionGetSize ${programs} $0
-    WriteRegDWORD HKCU "${ENTRY}" EstimatedSize $0
-    WriteRegDWORD HKCU "${ENTRY}" NoModify 1
-    WriteRegDWORD HKCU "${ENTRY}" NoRepair 1
     SetErrorLevel 0
 SectionEnd
 
@@ -412,6 +408,15 @@ Function un.findUsed
     ${EndIf}
 FunctionEnd
 
+; It knows its files by their names alone, which files beside a copy of it may have, too.
+Function un.onInit
+    ReadRegStr $0 HKCU "${ENTRY}" InstallLocation
+    ${If} $0 != $INSTDIR
+        MessageBox MB_OK|MB_ICONSTOP $(notInstalled) /SD IDOK
+        Abort
+    ${EndIf}
+FunctionEnd
+
 Section Uninstall
     again:
     StrCpy $1 no
@@ -442,8 +447,8 @@ Section Uninstall
     !insertmacro TellShell
     StrCpy $0 $INSTDIR
     Call un.removeFromPath
-    DeleteRegKey HKCU "${ENTRY}"
     Delete "$INSTDIR\${UNINSTALLER}"
     RMDir "$INSTDIR"
+    DeleteRegKey HKCU "${ENTRY}"
     SetErrorLevel 0
 SectionEnd
