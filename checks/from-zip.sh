@@ -40,20 +40,23 @@ run() {
         fail "$1 ends with an error and says: $answer"
 }
 
-# try_in FOLDER: the steps where the zip is unpacked into that folder of the drive, over an old program.
+# try_in FOLDER [NAME]: the steps where the zip is unpacked into that folder of the drive, over an old
+# program. NAME is that of the folder in the document, if it is another one.
 try_in() {
-    local parent=$drive$1
+    local parent=$drive/$1
     mkdir -p "$parent/xml2ryk"
     echo old >"$parent/xml2ryk/xml2ryk.exe"
     unzip -q -o "$zip" -d "$parent"
     unzip -q -o "$zip" -d "$parent"
-    sed "s|C:.xml2ryk|C:${1//\//\\\\}\\\\xml2ryk|" "$work/block1.bat" | iconv -t CP866 >"$drive/steps.bat"
+    sed "s|%USERPROFILE%|${2:-%USERPROFILE%}|" "$work/block1.bat" | iconv -t CP866 >"$drive/steps.bat"
     run 'C:\steps.bat'
     cmp "$work/expected.txt" "$parent/xml2ryk/orders.txt"
 }
 [ "$(unzip -Z1 "$zip" | cut -d / -f 1 | sort -u)" = xml2ryk ] || fail "not all is in a folder xml2ryk"
-try_in ""
-try_in "/Мои программы"
+home=$(cd "$drive" && echo users/*/AppData)
+home=${home%/*}
+try_in "$home"
+try_in "Мои программы" 'C:\\Мои программы'
 
 folder=$drive/Мой\ обмен
 mkdir "$folder"
@@ -91,7 +94,9 @@ drop 'C:\Мой обмен\orders.xml'
 grep -q '^xml2ryk-batch.exe is not beside' <<<"$answer" || fail "convert.cmd does not miss its program: $answer"
 
 say "trying what runs every night"
-schedule=$drive/xml2ryk/nightly.xml
+# Where the installer puts the programs, and on PATH.
+unzip -q "$zip" -d "$drive/$home/AppData/Local/Programs"
+schedule=$drive/$home/AppData/Local/Programs/xml2ryk/nightly.xml
 [ "$(head -c 2 "$schedule" | od -An -tx1)" = " ff fe" ] || fail "the schedule is not in UTF-16"
 # scheduled NAME: the text of that element.
 scheduled() { xmllint --xpath "string(//*[local-name() = '$1'])" "$schedule"; }
@@ -100,7 +105,7 @@ make_blocks "$work/nightly" <"$root/docs/many-files.md"
     fail "docs/many-files.md has other commands for Windows than those for the schedule and the outcome"
 mkdir -p "$drive"/exchange/{in,out}
 cp "$orders" "$drive/exchange/in/orders.xml"
-printf '%s %s\r\n' "$(scheduled Command)" "$(scheduled Arguments)" >"$drive/steps.bat"
+printf '"%s" %s\r\n' "$(scheduled Command)" "$(scheduled Arguments)" >"$drive/steps.bat"
 run 'C:\steps.bat'
 cmp "$work/expected.txt" "$drive/exchange/out/orders.txt"
 grep -q orders.xml "$drive/exchange/log.txt" || fail "what is scheduled writes no log"
@@ -109,12 +114,12 @@ sed -n '1s/ \/ru.*/ \/f\r/p' "$work/nightly1.bat" >"$drive/steps.bat"
 run 'C:\steps.bat'
 printf 'schtasks /delete /tn xml2ryk /f\r\n' >"$drive/steps.bat"
 run 'C:\steps.bat'
-cp "$work/nightly2.bat" "$drive/steps.bat"
+{ printf 'path %%LOCALAPPDATA%%\\Programs\\xml2ryk\r\n' && cat "$work/nightly2.bat"; } >"$drive/steps.bat"
 run 'C:\steps.bat'
 grep -q '^Everything is in the exchange files' <<<"$answer" || fail "the outcome in cmd: $answer"
 
 say "checking the texts of the zip"
-cd "$drive/xml2ryk"
+cd "$drive/$home/xml2ryk"
 rm orders.txt
 find . -name '*.html' -o -name '*.txt' -o -name '*.cmd' | while IFS= read -r text; do
     ! grep -qv $'\r$' "$text" || fail "$text: not the line ends of Windows"
