@@ -2,6 +2,7 @@
 #include "window/views.h"
 
 #include <QHeaderView>
+#include <QSet>
 
 #include <algorithm>
 
@@ -42,24 +43,100 @@ int currentRow(const QAbstractItemView &view)
     return view.currentIndex().isValid() ? view.currentIndex().row() : -1;
 }
 
+namespace
+{
+
+/// No column and no part of a page is larger.
+constexpr int largest = 1 << 14;
+
+// Of what has more than one setting.
+const QLatin1String widthsOfColumns("Widths"); // 0: hidden
+const QLatin1String sortedBy("Sorting");       // column and order
+
+void saveNumbers(QSettings &settings, const QString &name, const QVector<int> &numbers)
+{
+    QStringList texts;
+    for (const int number : numbers)
+        texts.append(QString::number(std::min(number, largest)));
+    settings.setValue(name, texts);
+}
+
+/// The numbers of this setting; none if there are not so many, or any is out of range.
+QVector<int> savedNumbers(const QSettings &settings, const QString &name, int count, int least,
+                          int most = largest)
+{
+    const QStringList texts = settings.value(name).toStringList();
+    if (texts.size() != count)
+        return {};
+    QVector<int> numbers;
+    for (const QString &text : texts) {
+        bool isNumber = false;
+        numbers.append(text.toInt(&isNumber));
+        if (!isNumber || numbers.last() < least || numbers.last() > most)
+            return {};
+    }
+    return numbers;
+}
+
+bool hasAny(const QVector<int> &sizes)
+{
+    return std::any_of(sizes.cbegin(), sizes.cend(), [](int size) { return size > 0; });
+}
+
+} // namespace
+
 void save(QSettings &settings, const QString &name, const QSplitter &splitter)
 {
-    settings.setValue(name, splitter.saveState());
+    if (!splitter.testAttribute(Qt::WA_Resized))
+        return; // its page was never shown
+    saveNumbers(settings, name, QVector<int>::fromList(splitter.sizes()));
 }
 
 void save(QSettings &settings, const QString &name, const QTableView &table)
 {
-    settings.setValue(name, table.horizontalHeader()->saveState());
+    QHeaderView &header = *table.horizontalHeader();
+    QVector<int> order;
+    QVector<int> widths;
+    header.setStretchLastSection(false); // or else the last one would tell what is left for it
+    for (int place = 0; place < header.count(); ++place) {
+        order.append(header.logicalIndex(place));
+        widths.append(header.sectionSize(place));
+    }
+    header.setStretchLastSection(true);
+    saveNumbers(settings, name, order);
+    saveNumbers(settings, name + widthsOfColumns, widths);
+    if (header.isSortIndicatorShown())
+        saveNumbers(settings, name + sortedBy,
+                    {header.sortIndicatorSection(), int(header.sortIndicatorOrder())});
 }
 
 void restore(const QSettings &settings, const QString &name, QSplitter &splitter)
 {
-    splitter.restoreState(settings.value(name).toByteArray());
+    const QVector<int> sizes = savedNumbers(settings, name, splitter.count(), 0);
+    if (hasAny(sizes))
+        splitter.setSizes(sizes.toList());
 }
 
 void restore(const QSettings &settings, const QString &name, QTableView &table)
 {
-    table.horizontalHeader()->restoreState(settings.value(name).toByteArray());
+    QHeaderView &header = *table.horizontalHeader();
+    const int count = header.count();
+    const QVector<int> order = savedNumbers(settings, name, count, 0, count - 1);
+    const QVector<int> widths = savedNumbers(settings, name + widthsOfColumns, count, 0);
+    if (QSet<int>(order.cbegin(), order.cend()).size() == count && hasAny(widths)) {
+        for (int place = 0; place < count; ++place) {
+            const int column = order.at(place);
+            const int width = widths.at(column);
+            header.moveSection(header.visualIndex(column), place);
+            header.setSectionHidden(column, width == 0);
+            if (width > 0)
+                header.resizeSection(column, width);
+        }
+    }
+    const QVector<int> sorting = savedNumbers(settings, name + sortedBy, 2, -1, count - 1);
+    if (header.isSortIndicatorShown() && !sorting.isEmpty())
+        header.setSortIndicator(sorting.at(0),
+                                sorting.at(1) == 1 ? Qt::DescendingOrder : Qt::AscendingOrder);
 }
 
 } // namespace window

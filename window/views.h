@@ -19,7 +19,8 @@ QTableView *tableView(TableModel &model, const QString &accessibleName);
 /// The row that the keyboard is at; -1 if there is none.
 int currentRow(const QAbstractItemView &view);
 
-// The arrangement of a page, by the name of the splitter or table. Settings may hold anything.
+// The arrangement of a page, by the name of each part. Settings may hold anything: what does not
+// fit is left as it is, and the toolkit is handed none of it, since it trusts what it once saved.
 void save(QSettings &settings, const QString &name, const QSplitter &splitter);
 void save(QSettings &settings, const QString &name, const QTableView &table);
 void restore(const QSettings &settings, const QString &name, QSplitter &splitter);

@@ -21,6 +21,7 @@
 #include <QMimeData>
 #include <QPushButton>
 #include <QSettings>
+#include <QSplitter>
 #include <QTabWidget>
 #include <QTableView>
 #include <QTreeView>
@@ -638,21 +639,157 @@ private slots:
     void settings_data()
     {
         QTest::addColumn<QByteArray>("text");
-        QTest::newRow("no settings") << QByteArray("\0\xff[[[=\n%%%", 10);
-        QTest::newRow("odd ones") << QByteArray(
-            "[General]\nrecent=7\ngeometry=@ByteArray(\\x1\\xd9\\xd0\\xcb\\xff)\n"
-            "[goods]\ntable=@ByteArray(\\0\\0\\0\\xff\\x7f\\xff\\xff\\xff)\nrows=nothing\n"
-            "[copy]\nprefix=@Invalid()\n");
+        QTest::addColumn<bool>("isUsual");
+        QTest::newRow("no settings") << QByteArray("\0\xff[[[=\n%%%", 10) << true;
+        QTest::newRow("odd ones")
+            << QByteArray(
+                   "[General]\nrecent=7\n"
+                   "[goods]\ntable=@ByteArray(\\0\\0\\0\\xff\\x7f\\xff\\xff\\xff)\nrows=nothing\n"
+                   "[copy]\nprefix=@Invalid()\n")
+            << true;
+        QTest::newRow("bytes of the toolkit")
+            << QByteArray(
+                   "[orders]\nrows=@ByteArray(\\0\\0\\0\\xff\\0\\0\\0\\x1\\x10\\0\\0\\x2\\0\\0"
+                   "\\0\\xc0\\0\\0\\0\\xc0\\x1\\xff\\xff\\xff\\xff\\x1\\0\\0\\0\\x2\\0)\n")
+            << true;
+
+        const auto newSizes = [](const char *name, const char *sizes) {
+            QTest::newRow(name) << "[goods]\nrows=" + QByteArray(sizes) + "\n" << true;
+        };
+        newSizes("no size at all", "0, 0");
+        newSizes("three parts of two", "100, 100, 100");
+        newSizes("less than nothing", "-100, 500");
+        newSizes("part of a size", "100, nan");
+        newSizes("a size of all screens", "100, 2147483647");
+
+        // Those of the goods table, beginning with these columns and widths.
+        const auto newTable = [](const char *name, bool isUsual, QVector<int> order,
+                                 QVector<int> widths, int count = goodFieldCount,
+                                 int otherWidths = 90) {
+            while (order.size() < count)
+                order << int(order.size());
+            while (widths.size() < count)
+                widths << otherWidths;
+            const auto list = [](const QVector<int> &numbers) {
+                QByteArrayList texts;
+                for (const int number : numbers)
+                    texts << QByteArray::number(number);
+                return texts.join(", ");
+            };
+            QTest::newRow(name) << "[goods]\ntable=" + list(order) +
+                                       "\ntableWidths=" + list(widths) + "\n"
+                                << isUsual;
+        };
+        newTable("fits", false, {1, 0}, {0, 200});
+        newTable("very narrow", false, {}, {}, goodFieldCount, 1);
+        newTable("no such column", true, {1'000'000}, {});
+        newTable("a negative column", true, {-1}, {});
+        newTable("a column twice", true, {1, 1}, {});
+        newTable("of older goods", true, {1, 0}, {}, goodFieldCount - 1);
+        newTable("of newer goods", true, {1, 0}, {}, goodFieldCount + 1);
+        newTable("all hidden", true, {1, 0}, {}, goodFieldCount, 0);
+        newTable("a negative width", true, {1, 0}, {-1});
+        newTable("as wide as a town", true, {1, 0}, {1'000'000});
+        for (const char *const sorting : {"-2, 0", "1000000, 0", "1", "1, 0, 1"})
+            QTest::newRow(qPrintable(QString("sorted by ") + sorting))
+                << "[goods]\ntableSorting=" + QByteArray(sorting) + "\n"
+                << true;
     }
 
+    /// The sizes of all parts of a window, and the order, the widths and the sorting of columns.
+    static QStringList arrangementOf(const MainWindow &window)
+    {
+        QStringList lines;
+        for (const QSplitter *const splitter : window.findChildren<QSplitter *>())
+            QDebug(&(lines << QString()).last()) << splitter->sizes();
+        for (const QTableView *const table : window.findChildren<QTableView *>()) {
+            QDebug line(&(lines << QString()).last());
+            const QHeaderView *const header = table->horizontalHeader();
+            line << table->accessibleName() << header->sortIndicatorSection()
+                 << header->sortIndicatorOrder();
+            for (int place = 0; place < header->count(); ++place)
+                line << header->logicalIndex(place)
+                     << header->sectionSize(header->logicalIndex(place));
+        }
+        return lines;
+    }
+
+    /// What does not fit leaves all as it is without settings.
     void settings()
     {
         QFETCH(QByteArray, text);
+        QFETCH(bool, isUsual);
         const Fixture fixture(text);
+        const Fixture usual;
+        if (isUsual)
+            QCOMPARE(arrangementOf(*fixture.window), arrangementOf(*usual.window));
+        else
+            QVERIFY(arrangementOf(*fixture.window) != arrangementOf(*usual.window));
         QVERIFY(fixture.opens(example("catalogue.xml")));
         QTRY_VERIFY_WITH_TIMEOUT(fixture.rowCount("Goods") > 0, patience);
+        fixture.trigger("showColumns");
+        QTableView *const table = fixture.table("Goods");
+        for (int column = 0; column < goodFieldCount; ++column) {
+            QVERIFY(!table->isColumnHidden(column));
+            QVERIFY(table->columnWidth(column) >= table->horizontalHeader()->minimumSectionSize());
+            QVERIFY(table->columnWidth(column) < 2000);
+        }
         fixture.window->close();
         QVERIFY(!fixture.settings->value("geometry").toByteArray().isEmpty());
+    }
+
+    static void showPages(const MainWindow &window)
+    {
+        auto *const tabs = window.findChild<QTabWidget *>();
+        for (int page = tabs->count() - 1; page >= 0; --page) {
+            tabs->setCurrentIndex(page);
+            QTest::qWait(10);
+        }
+    }
+
+    void arrangementComesBack()
+    {
+        const auto savedBy = [](const Fixture &fixture) {
+            fixture.window->close();
+            fixture.settings->sync();
+            return bytesOf(fixture.settings->fileName());
+        };
+        const Fixture first;
+        first.window->setGeometry(10, 40, 780, 500);
+        const QString source = first.write("s.xml", largeSource(2));
+        QVERIFY(first.opens(source));
+        QTRY_COMPARE_WITH_TIMEOUT(first.rowCount("Goods"), 2, patience);
+        showPages(*first.window);
+        for (QSplitter *const splitter : first.window->findChildren<QSplitter *>()) {
+            QList<int> sizes = QVector<int>(splitter->count(), 80).toList();
+            sizes.first() = 1000;
+            splitter->setSizes(sizes);
+        }
+        for (QTableView *const table : first.window->findChildren<QTableView *>()) {
+            table->horizontalHeader()->moveSection(0, 1);
+            for (int column = 0; column < table->model()->columnCount(); ++column)
+                table->setColumnWidth(column, 60 + column);
+        }
+        QTableView *const goods = first.table("Goods");
+        goods->setCurrentIndex(goods->model()->index(1, 2));
+        first.trigger("sort");
+        first.trigger("sort"); // falling
+        first.trigger("column4");
+        showPages(*first.window);
+        const QStringList arrangement = arrangementOf(*first.window);
+
+        const Fixture next(savedBy(first)); // shows only one of its pages
+        const Fixture last(savedBy(next));
+        QVERIFY(last.opens(source));
+        showPages(*last.window);
+        QCOMPARE(arrangementOf(*last.window), arrangement);
+        QVERIFY(!last.action("column4")->isChecked());
+
+        // The last column, which takes what is left, has kept a width of its own.
+        QHeaderView *const header = last.table("Findings")->horizontalHeader();
+        QVERIFY(header->sectionSize(3) > 63);
+        header->moveSection(3, 0);
+        QCOMPARE(header->sectionSize(3), 63);
     }
 
     void drop_data()
@@ -906,11 +1043,6 @@ private slots:
         QCOMPARE(shown(), QString("Name Code Group"));
         fixture.press(Qt::Key_F1, Qt::ControlModifier);
         QCOMPARE(shown(), QString("Name Group Unit"));
-        fixture.window->close();
-        const MainWindow next(*fixture.settings);
-        QVERIFY(!next.findChild<QAction *>("column1")->isChecked());
-
-        fixture.window->QWidget::show();
         for (int i = 0; i < 20; ++i)
             fixture.trigger("hideColumn");
         QCOMPARE(shown(), QString("Note")); // the last one stays
