@@ -8,6 +8,7 @@
 #include "window/orderspage.h"
 #include "window/overviewpage.h"
 #include "window/texts.h"
+#include "window/views.h"
 #include "words/findings.h"
 #include "words/language.h"
 
@@ -352,7 +353,7 @@ void MainWindow::showState()
 
 void MainWindow::saveSettings()
 {
-    settings.setValue(QStringLiteral("geometry"), saveGeometry());
+    window::save(settings, QStringLiteral("geometry"), *this);
     goods->save(settings);
     orders->save(settings);
     findings->save(settings);
@@ -362,8 +363,7 @@ void MainWindow::saveSettings()
 void MainWindow::restoreSettings()
 {
     constexpr QSize atFirst(1100, 700);
-    resize(atFirst);
-    restoreGeometry(settings.value(QStringLiteral("geometry")).toByteArray());
+    window::restore(settings, QStringLiteral("geometry"), *this, atFirst);
     goods->restore(settings);
     orders->restore(settings);
     findings->restore(settings);

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "window/views.h"
 
+#include <QGuiApplication>
 #include <QHeaderView>
+#include <QScreen>
 #include <QSet>
+#include <QStyle>
 
 #include <algorithm>
 
@@ -46,10 +49,11 @@ int currentRow(const QAbstractItemView &view)
 namespace
 {
 
-/// No column and no part of a page is larger.
+/// No column and no part of a window is larger.
 constexpr int largest = 1 << 14;
 
 // Of what has more than one setting.
+const QLatin1String maximized("Maximized");
 const QLatin1String widthsOfColumns("Widths"); // 0: hidden
 const QLatin1String sortedBy("Sorting");       // column and order
 
@@ -85,6 +89,13 @@ bool hasAny(const QVector<int> &sizes)
 
 } // namespace
 
+void save(QSettings &settings, const QString &name, const QMainWindow &window)
+{
+    const QRect place = window.normalGeometry();
+    saveNumbers(settings, name, {place.x(), place.y(), place.width(), place.height()});
+    settings.setValue(name + maximized, window.isMaximized());
+}
+
 void save(QSettings &settings, const QString &name, const QSplitter &splitter)
 {
     if (!splitter.testAttribute(Qt::WA_Resized))
@@ -108,6 +119,34 @@ void save(QSettings &settings, const QString &name, const QTableView &table)
     if (header.isSortIndicatorShown())
         saveNumbers(settings, name + sortedBy,
                     {header.sortIndicatorSection(), int(header.sortIndicatorOrder())});
+}
+
+void restore(const QSettings &settings, const QString &name, QMainWindow &window,
+             const QSize &atFirst)
+{
+    const QVector<int> saved = savedNumbers(settings, name, 4, -largest);
+    QRect place(QPoint(), atFirst);
+    if (!saved.isEmpty())
+        place = QRect(saved.at(0), saved.at(1), saved.at(2), saved.at(3));
+    const QScreen *screen = QGuiApplication::screenAt(place.center());
+    if (screen == nullptr)
+        screen = QGuiApplication::primaryScreen();
+    // Nobody knows yet how large its frame is.
+    const QStyle &style = *window.style();
+    const int title = style.pixelMetric(QStyle::PM_TitleBarHeight, nullptr, &window);
+    const int frame = style.pixelMetric(QStyle::PM_MdiSubWindowFrameWidth, nullptr, &window);
+    const QRect room = screen->availableGeometry().adjusted(frame, title, -frame, -frame);
+    place.setSize(place.size().expandedTo(window.minimumSizeHint()).boundedTo(room.size()));
+    place.moveRight(std::min(place.right(), room.right()));
+    place.moveBottom(std::min(place.bottom(), room.bottom()));
+    place.moveLeft(std::max(place.left(), room.left()));
+    place.moveTop(std::max(place.top(), room.top()));
+    if (saved.isEmpty())
+        window.resize(place.size()); // where it comes is up to the desktop
+    else
+        window.setGeometry(place);
+    if (settings.value(name + maximized).toBool())
+        window.setWindowState(Qt::WindowMaximized);
 }
 
 void restore(const QSettings &settings, const QString &name, QSplitter &splitter)

@@ -20,6 +20,7 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QPushButton>
+#include <QScreen>
 #include <QSettings>
 #include <QSplitter>
 #include <QTabWidget>
@@ -643,7 +644,7 @@ private slots:
         QTest::newRow("no settings") << QByteArray("\0\xff[[[=\n%%%", 10) << true;
         QTest::newRow("odd ones")
             << QByteArray(
-                   "[General]\nrecent=7\n"
+                   "[General]\nrecent=7\ngeometry=@ByteArray(\\x1\\xd9\\xd0\\xcb\\xff)\n"
                    "[goods]\ntable=@ByteArray(\\0\\0\\0\\xff\\x7f\\xff\\xff\\xff)\nrows=nothing\n"
                    "[copy]\nprefix=@Invalid()\n")
             << true;
@@ -735,7 +736,31 @@ private slots:
             QVERIFY(table->columnWidth(column) < 2000);
         }
         fixture.window->close();
-        QVERIFY(!fixture.settings->value("geometry").toByteArray().isEmpty());
+        QVERIFY(!fixture.settings->value("geometry").toStringList().isEmpty());
+    }
+
+    void places_data()
+    {
+        QTest::addColumn<QByteArray>("geometry");
+        for (const char *const geometry :
+             {"", "300, 200, 300, 350", "-5000, 9000, 300, 350", "0, 0, 16384, 16384",
+              "700, 500, 1, -1", "-16384, -16384, 16384, 16384",
+              "2147483647, 2147483647, 2147483647, 2147483647", "300, 200, 300", "left, top, 1, 1",
+              "@Rect(-5000 -5000 300 350)"})
+            QTest::newRow(geometry) << QByteArray(geometry);
+    }
+
+    /// All of the window is on a screen.
+    void places()
+    {
+        QFETCH(QByteArray, geometry);
+        const Fixture fixture("[General]\ngeometry=" + geometry + "\n");
+        QVERIFY(QTest::qWaitForWindowExposed(fixture.window.get()));
+        const QRect screen = fixture.window->screen()->availableGeometry();
+        const QRect place = fixture.window->geometry();
+        QVERIFY2(screen.contains(place), QTest::toString(place));
+        if (geometry.startsWith("300, 200, 300, "))
+            QCOMPARE(place, QRect(300, 200, 300, 350));
     }
 
     static void showPages(const MainWindow &window)
@@ -755,7 +780,8 @@ private slots:
             return bytesOf(fixture.settings->fileName());
         };
         const Fixture first;
-        first.window->setGeometry(10, 40, 780, 500);
+        const QRect place(10, 40, 780, 500);
+        first.window->setGeometry(place);
         const QString source = first.write("s.xml", largeSource(2));
         QVERIFY(first.opens(source));
         QTRY_COMPARE_WITH_TIMEOUT(first.rowCount("Goods"), 2, patience);
@@ -784,12 +810,18 @@ private slots:
         showPages(*last.window);
         QCOMPARE(arrangementOf(*last.window), arrangement);
         QVERIFY(!last.action("column4")->isChecked());
+        QCOMPARE(last.window->geometry(), place);
 
         // The last column, which takes what is left, has kept a width of its own.
         QHeaderView *const header = last.table("Findings")->horizontalHeader();
         QVERIFY(header->sectionSize(3) > 63);
         header->moveSection(3, 0);
         QCOMPARE(header->sectionSize(3), 63);
+
+        last.window->showMaximized();
+        const Fixture large(savedBy(last));
+        QVERIFY(large.window->isMaximized());
+        QCOMPARE(large.window->normalGeometry(), place);
     }
 
     void drop_data()
