@@ -39,7 +39,7 @@ namespace window
 {
 
 MainWindow::MainWindow(QSettings &settings)
-    : settings(settings),
+    : settings(readSettings(settings)),
       goods(new GoodsPage(desk)),
       orders(new OrdersPage),
       findings(new FindingsPage),

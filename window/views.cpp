@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "window/views.h"
 
+#include <QFile>
 #include <QGuiApplication>
 #include <QHeaderView>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QSet>
 #include <QStyle>
@@ -87,7 +89,33 @@ bool hasAny(const QVector<int> &sizes)
     return std::any_of(sizes.cbegin(), sizes.cend(), [](int size) { return size > 0; });
 }
 
+/// Whether the toolkit would make objects of its own of values, for which it may take any amount of
+/// memory and time. What begins with an escape might become one of them.
+bool holdsObjects(const QByteArray &ini)
+{
+    // Quoted texts may be paths; how they begin is enough.
+    static const QRegularExpression quoted(
+        QStringLiteral(R"re(^\s*;[^\r\n]*|"(@[@\w(]*+|(?:[^"\\]|\\.)?+)(?:[^"\\]|\\.)*+")re"),
+        QRegularExpression::MultilineOption | QRegularExpression::DotMatchesEverythingOption);
+    static const QRegularExpression object(
+        QStringLiteral(R"re([=,][\s"]*(?:\\|@(?!@|Invalid\(|ByteArray\()))re"));
+    // With its size, or else it would end at a zero.
+    return QString::fromLatin1(ini.constData(), ini.size())
+        .replace(quoted, QStringLiteral("\\1"))
+        .contains(object);
+}
+
 } // namespace
+
+QSettings &readSettings(QSettings &settings)
+{
+    QFile file(settings.fileName());
+    if (file.open(QIODevice::ReadOnly) && holdsObjects(file.readAll())) {
+        file.remove();
+        settings.sync();
+    }
+    return settings;
+}
 
 void save(QSettings &settings, const QString &name, const QMainWindow &window)
 {

@@ -20,6 +20,9 @@ QTableView *tableView(TableModel &model, const QString &accessibleName);
 /// The row that the keyboard is at; -1 if there is none.
 int currentRow(const QAbstractItemView &view);
 
+/// The same settings; where their file would have the toolkit make more than texts, it is removed.
+QSettings &readSettings(QSettings &settings);
+
 // The arrangement of a window, by the name of each part. Settings may hold anything: what does not
 // fit is left as it is, and the toolkit is handed none of it, since it trusts what it once saved.
 void save(QSettings &settings, const QString &name, const QMainWindow &window);

@@ -653,6 +653,22 @@ private slots:
                    "[orders]\nrows=@ByteArray(\\0\\0\\0\\xff\\0\\0\\0\\x1\\x10\\0\\0\\x2\\0\\0"
                    "\\0\\xc0\\0\\0\\0\\xc0\\x1\\xff\\xff\\xff\\xff\\x1\\0\\0\\0\\x2\\0)\n")
             << true;
+        const QByteArray before("; \"\nzero=\0\n", 11);
+        const auto newValue = [&](const char *value, bool isUsual) { // quoted by ', for short
+            QTest::newRow(value) << before + "[General]\nrecent=" +
+                                        QByteArray(value).replace('\'', '"') +
+                                        "\n[goods]\ntableSorting=1, 0\n"
+                                 << isUsual;
+        };
+        // The first one asks for more memory than there is.
+        for (const char *const value :
+             {R"(@DateTime(\0\0\0\xb\0\x7f\xff\xff\xff))", R"(@Variant(\0\0\0\x2\0\0\0\0\x1))",
+              "/a, '@Variant('", "''@Variant(", R"(\x40Variant()", R"('\x40Variant(')",
+              "\\\n@Variant(", "@'Variant('"})
+            newValue(value, true);
+        for (const char *const path : {"/a/@Variant(", "'/a, @Variant('", R"('/a, \x43f')",
+                                       "@@Variant(", "@Invalid()", R"('@ByteArray(\x1,)')"})
+            newValue(path, false);
 
         const auto newSizes = [](const char *name, const char *sizes) {
             QTest::newRow(name) << "[goods]\nrows=" + QByteArray(sizes) + "\n" << true;
