@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "window/findingspage.h"
 
+#include "window/settings.h"
 #include "window/views.h"
 #include "words/language.h"
 
+#include <QSplitter>
 #include <QVBoxLayout>
 
 using words::Words;

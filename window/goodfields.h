@@ -8,7 +8,6 @@
 #include <QVector>
 
 #include <array>
-#include <cstddef>
 
 namespace window
 {
@@ -28,7 +27,7 @@ enum class GoodField {
     Note,    ///< that it is sold out, in words: with extended offers it has no goods row then
 };
 
-constexpr std::size_t goodFieldCount = std::size_t(GoodField::Note) + 1; // the last one
+constexpr int goodFieldCount = int(GoodField::Note) + 1; // the last one
 
 struct GoodFieldInfo {
     GoodField field;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "window/goodspage.h"
 
+#include "window/settings.h"
 #include "window/textview.h"
 #include "window/views.h"
 #include "words/language.h"
@@ -9,6 +10,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QSplitter>
 #include <QTreeView>
 #include <QVBoxLayout>
 

@@ -7,8 +7,8 @@
 #include "window/menus.h"
 #include "window/orderspage.h"
 #include "window/overviewpage.h"
+#include "window/settings.h"
 #include "window/texts.h"
-#include "window/views.h"
 #include "words/findings.h"
 #include "words/language.h"
 

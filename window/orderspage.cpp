@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "window/orderspage.h"
 
+#include "window/settings.h"
 #include "window/texts.h"
 #include "window/views.h"
 #include "words/language.h"
@@ -8,6 +9,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QPlainTextEdit>
+#include <QSplitter>
 #include <QVBoxLayout>
 
 #include <algorithm>
