@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "window/desk.h"
 #include "window/groupsmodel.h"
+#include "window/harmless.h"
 #include "window/loader.h"
 #include "window/tables.h"
 #include "window/texts.h"
@@ -377,6 +378,85 @@ private slots:
         const Opened opened = openText(xml);
         opened.reader->collectRows({}, &chosen);
         QTEST(Rows::codesOf(*opened.reader), "codes");
+    }
+
+    void harmless_data()
+    {
+        QTest::addColumn<QString>("html");
+        QTest::addColumn<QString>("expected");
+        const auto row = [](const char *name, const QString &html, const QString &expected) {
+            QTest::newRow(name) << html << expected;
+        };
+        const QString none = "none";
+        row("attributes", "<P class=\"a>b\" id = 'c>d' e=f>x</P\n>", "<p>x</p>");
+        row("a tag in lines", "<b\n\tid=1\n>x</b>", "<b>x</b>");
+        row("other elements", "<body><a href='x'>l</a><img src=x><o:p>m</o:p><font>n", "lmn");
+        row("left out",
+            "a<!DOCTYPE x><!-- <b> --><?x y?><STYLE>p {}</style >b<script><b></script>c", "abc");
+        row("left out to the end", "a<script>b<b>", "a");
+        row("no tags", "a < b <= c <<b>d</b> </> <1> & &; &amp; <b",
+            "a &lt; b &lt;= c &lt;<b>d</b> &lt;/&gt; &lt;1&gt; &amp; &amp;; &amp; &lt;b");
+        row("a quote without its end", "<b a='>x</b> <i a=\">y", "<b>x</b> <i>y</i>");
+        row("ends that are missing", "<p>a<p><b>b<ul><li>c<li>d</ul>e",
+            "<p>a</p><p><b>b</b></p><ul><li>c</li><li>d</li></ul>e");
+        row("a table without ends", "<table><td>a<td><p>b<tr><th>c<table><tr><td>d</table>e",
+            "<table><tr><td>a</td><td><p>b</p></td></tr><tr><th>c<table><tr><td>d</td></tr></table>"
+            "e</th></tr></table>");
+        row("ends of nothing", "</p><table><tr><td>a</b></ul></td></tr></table></table></li>",
+            "<table><tr><td>a</td></tr></table>");
+        row("ends behind a border", "<b><table><tr><td>a</b>b</table><ul><li>c<ul><li>d</ul>e</ul>",
+            "<b><table><tr><td>ab</td></tr></table><ul><li>c<ul><li>d</li></ul>e</li></ul></b>");
+        row("cells without a table", "<td>a</td><tr>b", "ab");
+        row("references",
+            "&nbsp;&#151;&#x1F600;&#x2067;&#8238;&#0;&#xD800;&#x110000;&#12345678901;",
+            "&nbsp;&#151;&#x1F600;&amp;#xD800;&amp;#x110000;&amp;#12345678901;");
+        row("a long word", "<p>" + QString(600, 'x'),
+            "<p>" + QString(500, 'x') + "\n" + QString(100, 'x') + "</p>");
+        const QString cell = "<td>" + QString(400, 'x') + "</td>";
+        row("words in cells", "<table><tr>" + cell + cell + "</tr></table>",
+            "<table><tr>" + cell + cell + "</tr></table>");
+        row("many elements", QString("<br>").repeated(1'501), none);
+        row("deep", QString("<i>").repeated(31), none);
+        row("many letters", QString("x ").repeated(15'001), none);
+        row("many lines", QString("\n").repeated(5'001), none);
+        const QString nested = QString("<table><tr><td>").repeated(3);
+        row("many letters in tables in tables", nested + QString("x ").repeated(2'000), none);
+        row("many elements in tables in tables", nested + QString("<hr>").repeated(500), none);
+        row("too much to read", "x<!--" + QString(1'000'000, '-') + "-->", none);
+    }
+
+    void harmless()
+    {
+        QFETCH(QString, html);
+        const auto shown = harmlessHtml(html);
+        QTEST(shown.value_or("none"), "expected");
+    }
+
+    void harmlessTexts_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("few letters") << "a <b>\t&amp;\r\nb"
+                                     << "a <b>\t&amp;\r\nb";
+        QTest::newRow("a long word")
+            << QString(1001, 'x') << QString(500, 'x') + "\n" + QString(500, 'x') + "\nx";
+        QTest::newRow("pairs stay together")
+            << "x" + QString("😀").repeated(250) << "x" + QString("😀").repeated(250);
+        QTest::newRow("marks of a letter")
+            << "e" + QString(600, QChar(0x301))
+            << "e" + QString(499, QChar(0x301)) + "\n" + QString(101, QChar(0x301));
+        QTest::newRow("what turns others")
+            << QString("a") + QChar(0x202E) + QChar(0x2067) + "b" + QChar(0xFDD0) << "ab";
+        QTest::newRow("cut") << QString("x ").repeated(15'001)
+                             << QString("x ").repeated(15'000) + "\n…";
+        QTest::newRow("cut lines")
+            << QString("\r").repeated(5'001) << QString("\r").repeated(5'000) + "\n…";
+    }
+
+    void harmlessTexts()
+    {
+        QFETCH(QString, text);
+        QTEST(harmlessText(text), "expected");
     }
 
     void stopped_data()
