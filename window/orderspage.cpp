@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "window/orderspage.h"
 
+#include "window/harmless.h"
 #include "window/settings.h"
 #include "window/texts.h"
 #include "window/views.h"
@@ -84,8 +85,7 @@ void OrdersPage::showCurrent()
     const Order order = row < 0 ? Order() : source->orders.at(row);
     lines.show(order.lines);
     details.show(order.partnerDetails);
-    constexpr int longest = 200000; // it is laid out at once
-    requisites->setPlainText(order.requisites.left(longest));
+    requisites->setPlainText(harmlessText(order.requisites));
     reason->setVisible(order.isLost);
     if (order.isLost)
         reason->setText(Words::tr("Not exported: %1").arg(sentence(order.loss)));

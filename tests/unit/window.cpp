@@ -19,7 +19,9 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QPlainTextEdit>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QSettings>
 #include <QSplitter>
@@ -29,6 +31,7 @@
 #include <QtTest>
 
 #include <atomic>
+#include <ctime>
 #include <new>
 
 #ifdef Q_OS_UNIX
@@ -184,6 +187,12 @@ static const QByteArray bothRoles =
     "<Контрагент><Ид>a</Ид><Роль>Покупатель</Роль></Контрагент>"
     "<Контрагент><Ид>b</Ид><Роль>Продавец</Роль></Контрагент></Контрагенты>"
     "<Товары><Товар><Ид>t</Ид></Товар></Товары></Документ></r>";
+
+/// Whether it is short, and blanks part it.
+static bool isLaidOutSoon(const QString &shown)
+{
+    return shown.size() < 40'000 && !QRegularExpression("\\S{600}").match(shown).hasMatch();
+}
 
 class WindowTest : public QObject
 {
@@ -867,7 +876,8 @@ private slots:
                                  patience);
     }
 
-    /// The picture of a description would be as large as it is, if it were opened.
+    /// The picture of a description would be as large as it is, if it were opened. Even where it
+    /// is not, the toolkit looks for files of similar names.
     void picturesOfDescriptions()
     {
         const QTemporaryDir folder;
@@ -881,21 +891,110 @@ private slots:
         view.show();
         for (const QString &name : {QUrl::fromLocalFile(path).toString(), path,
                                     QStringLiteral("large.png"), QStringLiteral("large")}) {
-            view.showText("<p>text<img src='" + name + "'></p>");
-            QCOMPARE(view.toPlainText().left(4), QString("text"));
+            view.showText("<p>text<img src='" + name + "'><a href='" + name +
+                          "'>link</a></p><table background='" + name + "'><tr><td>cell</table>");
+            QCOMPARE(view.toPlainText().left(8), QString("textlink"));
             QVERIFY2(view.document()->size().height() < 200, qPrintable(name));
+            for (const QTextFormat &format : view.document()->allFormats()) {
+                QVERIFY(!format.isImageFormat());
+                QVERIFY(!format.hasProperty(QTextFormat::AnchorHref));
+                QVERIFY(!format.hasProperty(QTextFormat::BackgroundImageUrl));
+            }
         }
         QVERIFY(QDir::setCurrent(current));
     }
 
-    void deepDescriptions()
+    void hostileDescriptions_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("start");
+        const auto row = [](const char *name, const QString &text, const QString &start) {
+            QTest::newRow(name) << text << start;
+        };
+        const auto times = [](int count, const char *text) {
+            return QString(text).repeated(count);
+        };
+        row("a style", "<style>i *{}</style>" + times(1'400, "<b>x</b>"), "xxx");
+        row("wide cells", "<table>" + times(900, "<td colspan=20000>x"), "\nx\nx");
+        row("high cells", "<table>" + times(900, "<td rowspan=20000>x"), "\nx\nx");
+        row("large pictures", times(500, "<img width=30000 height=30000>") + "x", "x");
+        row("tables that float",
+            times(3, "<table style='float:left' width='10%'><tr><td>") + times(100, "word "), "\n");
+        QString sizes;
+        for (int size = 1; size <= 1'400; ++size)
+            sizes += "<b style='font-size:" + QString::number(size) + "px'>x</b>";
+        row("sizes", sizes, "xxx");
+        row("tables in tables", times(10, "<table><tr><td>") + times(3'000, "word "), "<table>");
+        row("deep blocks", times(3'000, "<div>"), "<div>");
+        row("deep lists", times(3'000, "<ul><li>"), "<ul><li>");
+        row("deep letters", times(3'000, "<b>"), "<b>");
+        row("lines", "<p>" + times(50'000, "<br>"), "<p><br>");
+        row("quotes", "<p>" + times(90'000, "<x =\">\" "), "<p><x");
+        row("a word of HTML", "<p>" + times(29'000, "x"), "xxx");
+        row("a word", times(200'000, "x"), "xxx");
+        row("marks of a letter", "e" + times(190'000, "\u0301"), u8"e\u0301");
+        row("isolates", times(66'000, "\u2067a\u2069"), "aaa");
+    }
+
+    /// They come as they are meant, or else as they are written, with no more behind them.
+    void hostileDescriptions()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, start);
+        TextView view;
+        view.resize(900, 300);
+        view.show();
+        const std::clock_t begin = std::clock();
+        view.showText(text);
+        QVERIFY(view.document()->size().height() > 0);
+        QCoreApplication::processEvents();
+        QVERIFY((std::clock() - begin) / CLOCKS_PER_SEC < 5);
+        const QString shown = view.toPlainText();
+        QCOMPARE(shown.left(start.size()), start);
+        QVERIFY(isLaidOutSoon(shown));
+        for (const QTextFormat &format : view.document()->allFormats()) {
+            QVERIFY(!format.hasProperty(QTextFormat::FontPixelSize));
+            QCOMPARE(format.toCharFormat().tableCellColumnSpan(), 1);
+            QCOMPARE(format.toCharFormat().tableCellRowSpan(), 1);
+            QVERIFY(!format.isFrameFormat() ||
+                    format.toFrameFormat().position() == QTextFrameFormat::InFlow);
+        }
+    }
+
+    void hostileRequisites_data()
+    {
+        QTest::addColumn<QString>("value");
+        QTest::newRow("a word") << QString(200'000, 'x');
+        QTest::newRow("marks of a letter") << "e" + QString(190'000, QChar(0x301));
+    }
+
+    void hostileRequisites()
+    {
+        QFETCH(QString, value);
+        const Fixture fixture;
+        const QString xml = QString(bothRoles).replace(
+            "</Товары></Документ>", "</Товары><ЗначенияРеквизитов><ЗначениеРеквизита>"
+                                    "<Наименование>n</Наименование><Значение>" +
+                                        value +
+                                        "</Значение></ЗначениеРеквизита>"
+                                        "</ЗначенияРеквизитов></Документ>");
+        QVERIFY(fixture.opens(fixture.write("s.xml", xml.toUtf8())));
+        const QString shown = fixture.named<QPlainTextEdit>("Requisites")->toPlainText();
+        QCOMPARE(shown.left(5), "n: " + value.left(2));
+        QVERIFY(isLaidOutSoon(shown));
+        QVERIFY(shown.endsWith("\n…"));
+    }
+
+    /// Each letter of a filter shows the current good once more.
+    void sameDescription()
     {
         TextView view;
-        for (const char *const element : {"<div>", "<ul><li>", "<b>"}) {
-            const QString text = QString(element).repeated(3000);
-            view.showText(text);
-            QCOMPARE(view.toPlainText(), text);
-        }
+        view.showText("<b>text</b>");
+        view.selectAll();
+        view.showText("<b>text</b>");
+        QVERIFY(view.textCursor().hasSelection());
+        view.showText("other");
+        QCOMPARE(view.toPlainText(), QString("other"));
     }
 
     /// A view of a tree calls itself for each level that is expanded.
