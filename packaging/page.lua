@@ -7,8 +7,8 @@ local pages = {}
 
 -- Chapters with one of these in their heading are for others.
 local elsewhere = {
-    Windows = {"Debian", "by hand", "вручную", "FILES"},
-    Debian = {"Windows", "this repository", "этот репозиторий", "by hand", "вручную"},
+    Windows = {"Debian", "FILES"},
+    Debian = {"Windows", "this repository", "этот репозиторий"},
 }
 
 local function is_russian(document)
@@ -83,8 +83,8 @@ end
 
 -- Whether it begins with a command of the repository, which no package has.
 local function is_for_repository(block)
-    local first = block.t == "Para" and block.content[1]
-    return first and first.t == "Code" and first.text:find("^scripts/")
+    local first = block.t == "Para" and block.content[1] or block
+    return (first.t == "Code" or first.t == "CodeBlock") and first.text:find("^scripts/")
 end
 
 local function without_other_chapters(blocks)
@@ -110,8 +110,9 @@ local function with_links(blocks)
             if not target then
                 return
             end
-            if pandoc.utils.stringify(link) == link.target then
-                link.content = pandoc.Inlines(target)
+            local text = pandoc.utils.stringify(link)
+            if pandoc.path.filename(text) == pandoc.path.filename(path) then
+                link.content = pandoc.Inlines((text:gsub("md$", "html")))
             end
             link.target = address(target) .. place
             return link
