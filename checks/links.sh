@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 #
 # checks/links.sh FOLDER|PACKAGE...: whether each link of the documents in it leads somewhere: those of
-# HTML, and those of Markdown that is read as text. A page must say what it is in, in a list of pages too, and
-# load nothing.
+# HTML, and those of Markdown that is read as text. A page must be whole, say what it is in, in a list of
+# pages too, load nothing, and name no page by its source.
 # A package is a zip, a Debian package or a tarball of the source.
 set -euo pipefail
 # shellcheck source-path=SCRIPTDIR source=../scripts/setup.sh
@@ -32,8 +32,16 @@ check_page() {
     [[ $1 != *.ru.html ]] || language=ru
     grep -q "<html [^>]* lang=\"$language\"" "$1" || fail "$1: not marked as $language"
     grep -q 'charset="utf-8"' "$1" || fail "$1: no charset"
+    [ -n "$(xmllint --html --xpath '//body//h1' "$1" 2>/dev/null)" ] || fail "$1: has no heading"
+    [ "$(tail -n 1 "$1" | tr -d '\r')" = "</html>" ] || fail "$1: is cut off"
     ! grep -qi '<script' "$1" || fail "$1: has a script"
-    ! attributes '//@src | //link/@href' "$1" | grep -v '^data:' || fail "$1: loads this"
+    ! attributes '//@src | //@srcset | //@poster | //@data | //link/@href' "$1" | grep -v '^data:' ||
+        fail "$1: loads this"
+    ! { xmllint --html --xpath '//style | //@style' "$1" 2>/dev/null | grep -io '@import\|url([^)]*' |
+        grep -v "^url([\"']*data:"; } || fail "$1: has a style that loads this"
+    ! xmllint --html --xpath '//a[contains(@href, ".html") and contains(concat(., "|"), ".md|")]' "$1" 2>/dev/null ||
+        fail "$1: names a page by its source"
+    ! grep '<pre><code>scripts/' "$1" || fail "$1: shows a command of the repository"
     local part='//section[@lang="ru"]'
     case $1 in
     */index.html) [ -n "$(attributes "$part//@href" "$1")" ] || fail "$1: no part in Russian" ;;
