@@ -24,11 +24,18 @@ must() {
 
 must "not SPDX 2.3" '.spdxVersion == "SPDX-2.3" and .dataLicense == "CC0-1.0" and .SPDXID == "SPDXRef-DOCUMENT"'
 must "no name or origin" '(.name | length > 0) and (.documentNamespace | test("^https://[^#]+$"))
-    and (.creationInfo.created | test("^[0-9]{4}-[0-9]{2}-[0-9]{2}T[0-9:]{8}Z$"))
+    and (.creationInfo.created | fromdate | todate) == .creationInfo.created
     and (.creationInfo.creators | length > 0 and all(test("^(Person|Organization|Tool): ")))'
 must "a component lacks a field" '.packages | length > 0 and all((.SPDXID | test("^SPDXRef-[A-Za-z0-9.-]+$"))
     and ([.name, .downloadLocation, .licenseDeclared, .licenseConcluded, .copyrightText] | all(length > 0))
     and .filesAnalyzed == false)'
+must "a component has neither a version nor a reason" '.packages | all(.versionInfo // .comment | length > 0)'
+# Of those that SPDX has, the ones that the list needs.
+must "another word than is known" '
+    ([.relationships[].relationshipType] - ["DESCRIBES", "CONTAINS", "DEPENDS_ON"] == [])
+    and ([.packages[].checksums[]?.algorithm] - ["SHA256"] == [])
+    and ([.packages[].externalRefs[]?] | length > 0 and all(.referenceCategory == "PACKAGE-MANAGER"
+        and .referenceType == "purl" and (.referenceLocator | test("^pkg:deb/debian/[^ ]+$"))))'
 must "two components have one id" '[.packages[].SPDXID] | length == (unique | length)'
 # shellcheck disable=SC2016
 must "what is related, or to what, is not in the list" '(["SPDXRef-DOCUMENT", .packages[].SPDXID]) as $ids
@@ -38,6 +45,24 @@ must "a component is a part of nothing" '[.packages[].SPDXID] - [.relationships[
 must "a Debian package needs nothing" '
     [.relationships[] | select(.relationshipType == "DEPENDS_ON").spdxElementId] as $needing
     | [.packages[] | select((.packageFileName // "") | endswith(".deb")).SPDXID] | length > 0 and . - $needing == []'
+parts='"xml2ryk", "qtbase-opensource-src", "libgcc, libstdc++ and libssp of GCC", "run time of mingw-w64"'
+setup_parts="$parts, \"installer of NSIS\""
+must "no version of the program, or of what becomes a part of it" "
+    [$setup_parts] - [.packages[] | select(.versionInfo).name] == []"
+# contain END PARTS: whether the files with this end of their names do.
+contain() {
+    # shellcheck disable=SC2016
+    must "a file $1 lacks a part" '(.packages | map({key: .SPDXID, value: .name}) | from_entries) as $names
+        | .relationships as $relations
+        | [.packages[] | select((.packageFileName // "") | endswith("'"$1"'")).SPDXID]
+        | length > 0 and all(. as $file | ['"$2"'] - [$relations[]
+            | select(.spdxElementId == $file and .relationshipType == "CONTAINS") | $names[.relatedSpdxElement]] == [])'
+}
+contain .zip "$parts"
+contain .exe "$setup_parts"
+contain -toolkit.tar '"qtbase-opensource-src"'
+contain .tar.gz '"xml2ryk"'
+contain .deb '"xml2ryk"'
 must "nobody is named who wrote the program" '[.packages[] | select(.name == "xml2ryk").copyrightText]
     | length == 1 and all(test("^Copyright [0-9]"))'
 # Each is in one of the files, whatever else the toolkit has.
