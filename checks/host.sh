@@ -2,7 +2,8 @@
 #
 # checks/host.sh BUILD: the program of docs/host.md, built with what the folder BUILD installs, also for
 # Windows: it must put on the clipboard what that page says, in both languages. And each header must be whole
-# by itself, each library by its target, and the CMake package must refuse what it does not have.
+# by itself, each library by its target, and the CMake package must give nothing but what was asked for, and
+# refuse what it does not have.
 set -euo pipefail
 # shellcheck source-path=SCRIPTDIR source=../scripts/setup.sh
 . "$(dirname "$(readlink -f "$0")")/../scripts/setup.sh"
@@ -87,9 +88,13 @@ END
 cat >"$work/parts/CMakeLists.txt" <<END
 cmake_minimum_required(VERSION 3.25)
 project(parts LANGUAGES CXX)
-find_package(xml2ryk ${version%.*} REQUIRED COMPONENTS reader survey)
-if(TARGET Qt5::Gui OR TARGET Qt6::Gui)
-    message(FATAL_ERROR "what needs no clipboard asks for its library")
+find_package(xml2ryk REQUIRED COMPONENTS reader)
+if(TARGET xml2ryk::survey OR NOT xml2ryk_reader_FOUND)
+    message(FATAL_ERROR "who asks for the reader does not get that alone")
+endif()
+find_package(xml2ryk ${version%.*} REQUIRED COMPONENTS survey)
+if(TARGET xml2ryk::clipboard OR TARGET Qt5::Gui OR TARGET Qt6::Gui)
+    message(FATAL_ERROR "who needs no clipboard gets it, or its library")
 endif()
 file(GLOB headers *.h.cpp)
 add_library(headers OBJECT \${headers})

@@ -23,11 +23,17 @@ if(MINGW)
     # What is protected needs the library that this brings.
     target_link_options(xml2ryk-core INTERFACE $<INSTALL_INTERFACE:-fstack-protector-strong>)
 endif()
-install(TARGETS ${libraries} EXPORT xml2ryk
-    ARCHIVE ${component}
-    FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/xml2ryk ${component})
-install(EXPORT xml2ryk NAMESPACE xml2ryk:: FILE xml2ryk-targets.cmake
-    DESTINATION ${package_folder} ${component})
+# Each with a file of its own, so that who asks for one gets no other, whose needs were not looked for.
+set(components)
+foreach(library IN LISTS libraries)
+    get_target_property(name ${library} EXPORT_NAME)
+    list(APPEND components ${name})
+    install(TARGETS ${library} EXPORT xml2ryk-${name}
+        ARCHIVE ${component}
+        FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/xml2ryk ${component})
+    install(EXPORT xml2ryk-${name} NAMESPACE xml2ryk:: DESTINATION ${package_folder} ${component})
+endforeach()
+list(JOIN components " " components)
 include(CMakePackageConfigHelpers)
 configure_package_config_file(packaging/library/xml2ryk-config.cmake.in xml2ryk-config.cmake
     INSTALL_DESTINATION ${package_folder} NO_SET_AND_CHECK_MACRO)
