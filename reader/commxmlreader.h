@@ -89,7 +89,7 @@ public:
 
     /// Tells the dialect from the root's name, in any case of letters, and fills the section lists
     /// anew. Forgets paths, pictures and goods rows. A root of another name leaves the dialect as
-    /// it was. False if there is no root.
+    /// it was. False if there is no root: the goods rows stay then.
     bool readStructure();
 
     /// Appends every section below `parent` to its list, in document order, sections nested in
