@@ -93,12 +93,13 @@ static QString writeTable(const QByteArray &csv, const QString &path)
     QSaveFile file(path);
     if (file.open(QIODevice::WriteOnly) && file.write(csv) == csv.size() && file.commit())
         return {};
-    // The toolkit asks for these itself, and has words of its own for them.
+    // The toolkit asks for these itself, or has words of its own for them.
     const QFileInfo old(path);
-    return words::systemWords(old.isDir() ? QStringLiteral("Is a directory")
-                              : old.exists() && !old.isWritable()
-                                  ? QStringLiteral("Permission denied")
-                                  : file.errorString());
+    const bool isRefused = old.exists() && !old.isWritable();
+    return words::systemWords(!old.dir().exists() ? QStringLiteral("No such file or directory")
+                              : old.isDir()       ? QStringLiteral("Is a directory")
+                              : isRefused         ? QStringLiteral("Permission denied")
+                                                  : file.errorString());
 }
 
 void Saving::saveFindings(const std::shared_ptr<const Source> &source, const QString &path)
