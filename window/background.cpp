@@ -2,12 +2,12 @@
 #include "window/background.h"
 
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QEvent>
+#include <QMutex>
+#include <QWaitCondition>
 
-#include <chrono>
-#include <condition_variable>
 #include <deque>
-#include <mutex>
 #include <thread>
 #include <utility>
 
@@ -35,8 +35,8 @@ public:
 
 /// What the thread works with; it may outlive the object.
 struct Background::Shared {
-    std::mutex mutex;
-    std::condition_variable changed;
+    QMutex mutex;
+    QWaitCondition changed;
     std::deque<Piece> pieces;
     Background *object = nullptr; ///< null when it ends
     bool isWorking = false;
@@ -51,18 +51,20 @@ Background::Background(std::chrono::seconds patience)
 
 Background::~Background()
 {
-    std::unique_lock<std::mutex> lock(shared->mutex);
+    const QMutexLocker lock(&shared->mutex);
     shared->object = nullptr;
     shared->pieces.clear();
-    shared->changed.notify_all();
-    shared->changed.wait_for(lock, patience, [this] { return !shared->hasThread; });
+    shared->changed.wakeAll();
+    const QDeadlineTimer deadline(patience);
+    while (shared->hasThread && shared->changed.wait(&shared->mutex, deadline))
+        continue;
 }
 
 void Background::run(std::function<void()> work, std::function<void()> done)
 {
-    const std::lock_guard<std::mutex> lock(shared->mutex);
+    const QMutexLocker lock(&shared->mutex);
     shared->pieces.push_back({std::move(work), std::move(done)});
-    shared->changed.notify_all();
+    shared->changed.wakeAll();
     if (shared->hasThread)
         return;
     std::thread([shared = shared] { workOff(*shared); }).detach();
@@ -71,31 +73,31 @@ void Background::run(std::function<void()> work, std::function<void()> done)
 
 bool Background::isBusy() const
 {
-    const std::lock_guard<std::mutex> lock(shared->mutex);
+    const QMutexLocker lock(&shared->mutex);
     return shared->isWorking || !shared->pieces.empty();
 }
 
 void Background::workOff(Shared &shared)
 {
-    std::unique_lock<std::mutex> lock(shared.mutex);
-    while (true) {
-        shared.changed.wait(lock,
-                            [&] { return shared.object == nullptr || !shared.pieces.empty(); });
-        if (shared.object == nullptr)
-            break;
+    QMutexLocker lock(&shared.mutex);
+    while (shared.object != nullptr) {
+        if (shared.pieces.empty()) {
+            shared.changed.wait(&shared.mutex);
+            continue;
+        }
         Piece piece = std::move(shared.pieces.front());
         shared.pieces.pop_front();
         shared.isWorking = true;
         lock.unlock();
         piece.work();
         piece.work = {}; // what it holds is not for the other thread
-        lock.lock();
+        lock.relock();
         shared.isWorking = false;
         if (piece.done && shared.object != nullptr)
             QCoreApplication::postEvent(shared.object, new DoneEvent(std::move(piece.done)));
     }
     shared.hasThread = false;
-    shared.changed.notify_all();
+    shared.changed.wakeAll();
 }
 
 void Background::customEvent(QEvent *event)
