@@ -4,6 +4,7 @@
 #include <QCollator>
 
 #include <algorithm>
+#include <functional>
 #include <limits>
 #include <utility>
 #include <vector>
@@ -34,15 +35,15 @@ std::vector<bool> groupsBelow(const Source &source, int group)
 }
 
 /// Rising or falling; what is equal stays in its order.
-template <typename Key, typename KeyOf>
-void sortBy(QVector<int> &places, Qt::SortOrder order, const KeyOf &keyOf)
+template <typename KeyOf, typename IsLess>
+void sortBy(QVector<int> &places, Qt::SortOrder order, const KeyOf &keyOf, const IsLess &isLess)
 {
-    std::vector<std::pair<Key, int>> keyed;
+    std::vector<std::pair<decltype(keyOf(0)), int>> keyed;
     keyed.reserve(std::size_t(places.size()));
     for (const int place : std::as_const(places))
         keyed.emplace_back(keyOf(place), place);
-    std::stable_sort(keyed.begin(), keyed.end(), [order](const auto &a, const auto &b) {
-        return order == Qt::AscendingOrder ? a.first < b.first : b.first < a.first;
+    std::stable_sort(keyed.begin(), keyed.end(), [&](const auto &a, const auto &b) {
+        return order == Qt::AscendingOrder ? isLess(a.first, b.first) : isLess(b.first, a.first);
     });
     std::transform(keyed.cbegin(), keyed.cend(), places.begin(),
                    [](const auto &one) { return one.second; });
@@ -75,18 +76,20 @@ QVector<int> arranged(const Source &source, const Arrangement &arrangement,
     if (goodFields[std::size_t(field)].isNumber) {
         constexpr double none = std::numeric_limits<double>::infinity(); // comes last, either way
         const int sign = arrangement.order == Qt::AscendingOrder ? 1 : -1;
-        sortBy<double>(places, Qt::AscendingOrder, [&](int place) {
-            const std::optional<double> number = numberIn(text(place));
-            return number ? sign * *number : none;
-        });
+        const auto number = [&](int place) {
+            const std::optional<double> read = numberIn(text(place));
+            return read ? sign * *read : none;
+        };
+        sortBy(places, Qt::AscendingOrder, number, std::less<>());
     } else {
         QCollator collator;
         collator.setNumericMode(true);
-        // Paths of groups can be far longer, and there is a key for each good.
+        // Paths of groups can be far longer.
         constexpr int longest = 200;
-        sortBy<QCollatorSortKey>(places, arrangement.order, [&](int place) {
-            return collator.sortKey(text(place).left(longest));
-        });
+        const auto beginning = [&](int place) { return text(place).left(longest); };
+        // By its sort keys the toolkit gives another order on Windows.
+        sortBy(places, arrangement.order, beginning,
+               [&](const QString &a, const QString &b) { return collator.compare(a, b) < 0; });
     }
     return places;
 }

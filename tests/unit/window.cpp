@@ -9,6 +9,7 @@
 #include "window/textview.h"
 #include "words/language.h"
 
+#include <QAbstractAnimation>
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
@@ -278,7 +279,13 @@ private slots:
         };
         QCOMPARE(chosenCodes(), QString("1 2 2999 777"));
         table->horizontalHeader()->setSortIndicator(2, Qt::DescendingOrder);
-        QTRY_VERIFY_WITH_TIMEOUT(table->model()->index(0, 0).data().toString() != "0", patience);
+        const auto firstCodes = [&] {
+            QStringList codes;
+            for (int row = 0; row < 4; ++row)
+                codes << table->model()->index(row, 0).data().toString();
+            return codes.join(" ");
+        };
+        QTRY_COMPARE_WITH_TIMEOUT(firstCodes(), QString("999 1999 2999 998"), patience);
         QCOMPARE(chosenCodes(), QString("1 2 2999 777"));
         QCOMPARE(table->currentIndex().data().toString(), QString("2999"));
         fixture.trigger("unsort");
@@ -783,7 +790,7 @@ private slots:
         QVERIFY(QTest::qWaitForWindowExposed(fixture.window.get()));
         const QRect screen = fixture.window->screen()->availableGeometry();
         const QRect place = fixture.window->geometry();
-        QVERIFY2(screen.contains(place), QTest::toString(place));
+        QCOMPARE(place & screen, place);
         if (geometry.startsWith("300, 200, 300, "))
             QCOMPARE(place, QRect(300, 200, 300, 350));
     }
@@ -1264,6 +1271,8 @@ private slots:
         QTest::keyClicks(filter, "a");
         QTest::keyClick(filter, Qt::Key_A, Qt::ControlModifier);
         QCOMPARE(filter->selectedText(), QString("a"));
+        // Where it still goes on, the toolkit leaves it behind.
+        QTRY_VERIFY(filter->findChild<QAbstractAnimation *>() == nullptr);
     }
 };
 
