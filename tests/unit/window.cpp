@@ -9,7 +9,6 @@
 #include "window/textview.h"
 #include "words/language.h"
 
-#include <QAbstractAnimation>
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
@@ -1271,8 +1270,7 @@ private slots:
         QTest::keyClicks(filter, "a");
         QTest::keyClick(filter, Qt::Key_A, Qt::ControlModifier);
         QCOMPARE(filter->selectedText(), QString("a"));
-        // Where it still goes on, the toolkit leaves it behind.
-        QTRY_VERIFY(filter->findChild<QAbstractAnimation *>() == nullptr);
+        QTest::qWait(500); // or else the toolkit leaves an animation of the field behind
     }
 };
 
