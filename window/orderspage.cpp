@@ -13,8 +13,6 @@
 #include <QSplitter>
 #include <QVBoxLayout>
 
-#include <algorithm>
-
 using words::Words;
 
 namespace window
